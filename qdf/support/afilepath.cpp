@@ -1,0 +1,48 @@
+#include "qdf/support/afilepath.h"
+
+#include <sys/stat.h>
+
+#include <string>
+#include <string_view>
+
+namespace {
+
+std::string_view WithoutTrailingSlashes(std::string_view path) {
+  while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
+  return path;
+}
+
+}  // namespace
+
+AFilePath& AFilePath::operator+=(const char* component) {
+  std::string_view added(component != nullptr ? component : "");
+  if (added.empty()) return *this;
+  while (!added.empty() && added.front() == '/') added.remove_prefix(1);
+  std::string joined(WithoutTrailingSlashes(static_cast<const char*>(path_)));
+  if (!joined.empty() && joined.back() != '/') joined += '/';
+  joined += added;
+  path_ = joined.c_str();
+  return *this;
+}
+
+AFilePath& AFilePath::operator+=(const AString& component) {
+  return *this += static_cast<const char*>(component);
+}
+
+int AFilePath::exists() const {
+  struct stat status {};
+  return stat(path_, &status) == 0 ? 1 : 0;
+}
+
+int AFilePath::isDirectory() const {
+  struct stat status {};
+  return stat(path_, &status) == 0 && S_ISDIR(status.st_mode) ? 1 : 0;
+}
+
+void AFilePath::getFileName(AString& name) const {
+  const std::string_view path = WithoutTrailingSlashes(static_cast<const char*>(path_));
+  const std::size_t slash = path.rfind('/');
+  // A path of separators only has no last component.
+  const std::string_view last = slash == std::string_view::npos ? path : path.substr(slash + 1);
+  name = std::string(last).c_str();
+}

@@ -1,0 +1,195 @@
+#include "qdf/support/axmltree.h"
+
+#include <algorithm>
+#include <cstring>
+#include <pugixml.hpp>
+#include <string_view>
+
+#include "qdf/support/filebytes.h"
+#include "qdf/support/nothrow.h"
+#include "qdf/support/xmlwellformed.h"
+
+// The parser works inside `bytes`, and the nodes of `xml` point into them: they must outlive it.
+struct AXMLTree::Document {
+  FileBytes bytes;
+  pugi::xml_document xml;
+  AXMLFault fault;
+};
+
+namespace {
+
+// White space is kept: it may be part of a value that comments or CDATA sections split.
+constexpr unsigned int kParseOptions = pugi::parse_default | pugi::parse_ws_pcdata;
+
+AXMLFault FaultAt(std::string_view text, std::size_t offset, const char* reason) {
+  const std::string_view before = text.substr(0, std::min(offset, text.size()));
+  const std::size_t newline = before.rfind('\n');
+  const std::size_t lineStart = newline == std::string_view::npos ? 0 : newline + 1;
+  AXMLFault fault;
+  fault.Reason = reason;
+  fault.Line = static_cast<int>(std::count(before.begin(), before.end(), '\n')) + 1;
+  fault.Column = static_cast<int>(before.size() - lineStart) + 1;
+  return fault;
+}
+
+AXMLFault FileFault(const char* reason) {
+  AXMLFault fault;
+  fault.Reason = reason;
+  return fault;
+}
+
+bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_element; }
+
+bool IsText(const pugi::xml_node& node) {
+  return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+}
+
+pugi::xml_node ElementFrom(pugi::xml_node node) {
+  while (node && !IsElement(node)) node = node.next_sibling();
+  return node;
+}
+
+// A null name is an empty one: the parser's own search compares without looking for null.
+const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
+
+}  // namespace
+
+AXMLTreeNode::~AXMLTreeNode() = default;
+
+AXMLTree::AXMLTree(const AString& rootName) : document_(std::make_unique<Document>()) {
+  document_->xml.append_child(static_cast<const char*>(rootName));
+}
+
+AXMLTree::~AXMLTree() = default;
+
+int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
+  removeAll(0);
+  document_->fault = AXMLFault();
+  FileBytes& bytes = document_->bytes;
+  const char* unreadable = ReadFileBytes(path, bytes);
+  if (unreadable != nullptr) {
+    document_->fault = FileFault(unreadable);
+    return 0;
+  }
+  const XMLFault fault = FindXMLFault(bytes.Text());
+  if (fault.reason != nullptr) {
+    document_->fault = FaultAt(bytes.Text(), fault.offset, fault.reason);
+    return 0;
+  }
+  const pugi::xml_parse_result result = document_->xml.load_buffer_inplace(
+      bytes.data.get(), bytes.size, kParseOptions, pugi::encoding_utf8);
+  if (result) return 1;
+  document_->xml.reset();
+  // The parser has written over the text, so the line is counted in a fresh copy.
+  if (ReadFileBytes(path, bytes) != nullptr) bytes.size = 0;
+  document_->fault =
+      FaultAt(bytes.Text(), static_cast<std::size_t>(result.offset), result.description());
+  return 0;
+}
+
+const AXMLFault& AXMLTree::loadFault() const { return document_->fault; }
+
+void AXMLTree::removeAll(int) {
+  document_->xml.reset();
+  cursors_.clear();
+}
+
+int AXMLTree::getRootNode(AXMLTreeNode& root) const {
+  const pugi::xml_node element = document_->xml.document_element();
+  if (!element) return 0;
+  root = AXMLTreeNode(element.internal_object(), 0);
+  return 1;
+}
+
+int AXMLTree::getItem(const char* name, AXMLTreeNode& item) const {
+  AXMLTreeNode root;
+  return getRootNode(root) != 0 ? getChild(name, root, item) : 0;
+}
+
+int AXMLTree::getChild(const char* name, AXMLTreeNode parent, AXMLTreeNode& child) const {
+  const pugi::xml_node found = pugi::xml_node(parent.element_).child(OrEmpty(name));
+  if (!found) return 0;
+  child = AXMLTreeNode(found.internal_object(), parent.depth_ + 1);
+  return 1;
+}
+
+int AXMLTree::getChild(int index, AXMLTreeNode parent, AXMLTreeNode& child) const {
+  if (index < 0 || parent.element_ == nullptr) return 0;
+  Cursor& cursor = cursorAt(parent.depth_);
+  if (cursor.parent != parent.element_ || index < cursor.index) {
+    const pugi::xml_node first = ElementFrom(pugi::xml_node(parent.element_).first_child());
+    cursor = {parent.element_, first.internal_object(), 0};
+  }
+  pugi::xml_node found(cursor.child);
+  int at = cursor.index;
+  for (; found && at < index; ++at) found = ElementFrom(found.next_sibling());
+  if (!found) return 0;
+  cursor.child = found.internal_object();
+  cursor.index = at;
+  child = AXMLTreeNode(cursor.child, parent.depth_ + 1);
+  return 1;
+}
+
+AXMLTree::Cursor& AXMLTree::cursorAt(int depth) const {
+  const auto place = static_cast<std::size_t>(depth);
+  if (place >= cursors_.size()) cursors_.resize(place + 1);
+  return cursors_[place];
+}
+
+int AXMLTree::getChildCount(AXMLTreeNode node) const {
+  const auto children = pugi::xml_node(node.element_).children();
+  return static_cast<int>(std::count_if(children.begin(), children.end(), IsElement));
+}
+
+AString AXMLTree::getName(AXMLTreeNode node) const { return pugi::xml_node(node.element_).name(); }
+
+AString AXMLTree::getValue(AXMLTreeNode node) const {
+  AString value;
+  for (const pugi::xml_node part : pugi::xml_node(node.element_).children()) {
+    if (IsText(part)) value += part.value();
+  }
+  return value;
+}
+
+AString AXMLTree::getAttribute(AXMLTreeNode node, const char* name) const {
+  return attributeText(node, name);
+}
+
+bool AXMLTree::isNamed(const AXMLTreeNode& node, const char* name) const {
+  return std::strcmp(pugi::xml_node(node.element_).name(), name) == 0;
+}
+
+const char* AXMLTree::attributeText(const AXMLTreeNode& node, const char* name) const {
+  return pugi::xml_node(node.element_).attribute(OrEmpty(name)).value();
+}
+
+int AXMLTree::addItem(AXMLTreeNode& item, const char* name, const char* value) {
+  AXMLTreeNode root;
+  return getRootNode(root) != 0 ? addChild(item, root, name, value, -1) : 0;
+}
+
+int AXMLTree::addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name,
+                       const char* value, int position) {
+  pugi::xml_node element(parent.element_);
+  AXMLTreeNode follower;
+  const bool inserted = position >= 0 && getChild(position, parent, follower) != 0;
+  cursors_.clear();
+  pugi::xml_node added = inserted ? element.insert_child_before(OrEmpty(name),  //
+                                                                pugi::xml_node(follower.element_))
+                                  : element.append_child(OrEmpty(name));
+  if (!added) return 0;
+  const bool hasText = *OrEmpty(value) != '\0';
+  if (hasText && !added.append_child(pugi::node_pcdata).set_value(value)) {
+    element.remove_child(added);
+    return 0;
+  }
+  child = AXMLTreeNode(added.internal_object(), parent.depth_ + 1);
+  return 1;
+}
+
+void AXMLTree::setAttribute(AXMLTreeNode node, const char* name, const char* value) {
+  pugi::xml_node element(node.element_);
+  pugi::xml_attribute attribute = element.attribute(OrEmpty(name));
+  if (!attribute) attribute = element.append_attribute(OrEmpty(name));
+  attribute.set_value(OrEmpty(value));
+}

@@ -1,0 +1,107 @@
+#pragma once
+
+// AXMLTree holds one XML document in memory, and AXMLTreeNode is a handle to one element of it. The
+// XML parser is hidden behind these two.
+
+#include <memory>
+#include <vector>
+
+#include "qdf/support/afilepath.h"
+#include "qdf/support/astring.h"
+#include "qdf/support/export.h"
+
+namespace pugi {
+struct xml_node_struct;
+}
+
+// A default-made handle refers to nothing. Copies refer to the same element. A handle is valid
+// until the tree is emptied or destroyed.
+class APMQDF_EXPORT AXMLTreeNode {
+ public:
+  AXMLTreeNode() = default;
+  AXMLTreeNode(const AXMLTreeNode&) = default;
+  AXMLTreeNode& operator=(const AXMLTreeNode&) = default;
+  virtual ~AXMLTreeNode();
+
+ private:
+  friend class AXMLTree;
+  AXMLTreeNode(pugi::xml_node_struct* element, int depth) : element_(element), depth_(depth) {}
+
+  pugi::xml_node_struct* element_ = nullptr;
+  int depth_ = 0;  // of the element, 0 for the root
+};
+
+// Why a document could not be loaded. The line and the column count from 1, in bytes; both are 0
+// when the file could not be read at all.
+struct AXMLFault {
+  AString Reason;
+  int Line = 0;
+  int Column = 0;
+};
+
+class APMQDF_EXPORT AXMLTree {
+ public:
+  // A tree that holds the root element only.
+  explicit AXMLTree(const AString& rootName);
+  virtual ~AXMLTree();
+  AXMLTree(const AXMLTree&) = delete;
+  AXMLTree& operator=(const AXMLTree&) = delete;
+
+  // Replaces the tree by the document in the file. 0 when the file can't be read, isn't well formed
+  // or there is no memory for it; the tree is then empty. The bytes of the document pass through as
+  // they are: an encoding that it declares isn't looked at. The flag has no meaning.
+  int loadFromFile(AFilePath& path, int flag);
+
+  // What was wrong at the last load that gave 0.
+  const AXMLFault& loadFault() const;
+
+  // Drops all nodes, the root included. The argument has no meaning.
+  void removeAll(int);
+
+  // Each of these gives non-zero and sets the output when the element exists; otherwise it gives 0
+  // and leaves the output alone. Only elements count as children; names are compared with case.
+  int getRootNode(AXMLTreeNode& root) const;
+  // The first child of the root with that name.
+  int getItem(const char* name, AXMLTreeNode& item) const;
+  // The first child of the parent with that name.
+  int getChild(const char* name, AXMLTreeNode parent, AXMLTreeNode& child) const;
+  // The child at that position, from 0. Going through the children in order costs one step for
+  // each.
+  int getChild(int index, AXMLTreeNode parent, AXMLTreeNode& child) const;
+
+  int getChildCount(AXMLTreeNode node) const;
+  AString getName(AXMLTreeNode node) const;
+  // The element's own text: its character data and CDATA sections joined, blanks kept.
+  AString getValue(AXMLTreeNode node) const;
+  // Empty when the attribute is missing.
+  AString getAttribute(AXMLTreeNode node, const char* name) const;
+
+  // The same answers without a copy: whether the element bears that name, and the text of an
+  // attribute, valid while the tree is.
+  bool isNamed(const AXMLTreeNode& node, const char* name) const;
+  const char* attributeText(const AXMLTreeNode& node, const char* name) const;
+
+  // Each of these adds an element with that name and, when it isn't empty, that text, and gives
+  // non-zero and its handle: behind the root's children, or among the parent's children at that
+  // position, where -1 means behind all.
+  int addItem(AXMLTreeNode& item, const char* name, const char* value);
+  int addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name, const char* value,
+               int position);
+  // Sets or replaces the attribute.
+  void setAttribute(AXMLTreeNode node, const char* name, const char* value);
+
+ private:
+  struct Document;
+
+  // Where the last access by index to the children of an element stood: one place for each depth,
+  // since loops over children nest.
+  struct Cursor {
+    pugi::xml_node_struct* parent = nullptr;
+    pugi::xml_node_struct* child = nullptr;
+    int index = 0;
+  };
+  Cursor& cursorAt(int depth) const;
+
+  std::unique_ptr<Document> document_;
+  mutable std::vector<Cursor> cursors_;
+};

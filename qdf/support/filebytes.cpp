@@ -1,0 +1,64 @@
+#include "qdf/support/filebytes.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+class Descriptor {
+ public:
+  // Non-blocking, since opening a pipe would otherwise wait for a writer.
+  explicit Descriptor(const char* path) : number_(open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  int Number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+const char* SystemReason() {
+  switch (errno) {
+    case ENOENT:
+    case ENOTDIR:
+      return "no such file";
+    case EACCES:
+      return "no permission to read it";
+    case ENAMETOOLONG:
+      return "the name is too long";
+    case ELOOP:
+      return "the links lead nowhere";
+    default:
+      return "it can't be read";
+  }
+}
+
+}  // namespace
+
+const char* ReadFileBytes(const char* path, FileBytes& bytes) {
+  const Descriptor file(path);
+  struct stat status {};
+  if (file.Number() < 0 || fstat(file.Number(), &status) != 0) return SystemReason();
+  if (S_ISDIR(status.st_mode)) return "it is a folder";
+  if (!S_ISREG(status.st_mode)) return "it is no regular file";
+
+  const auto expected = static_cast<std::size_t>(status.st_size);
+  bytes.data = std::make_unique_for_overwrite<char[]>(expected);
+  bytes.size = 0;
+  while (bytes.size < expected) {
+    const ssize_t got = read(file.Number(), bytes.data.get() + bytes.size, expected - bytes.size);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return SystemReason();
+    if (got == 0) break;  // the file has shrunk
+    bytes.size += static_cast<std::size_t>(got);
+  }
+  return nullptr;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+// The bytes of a whole file at once.
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+struct FileBytes {
+  std::unique_ptr<char[]> data;
+  std::size_t size = 0;
+
+  std::string_view Text() const { return {data.get(), size}; }
+};
+
+// Reads the regular file at the path, as it is at this moment. Answers null when it was read, and
+// otherwise why it wasn't, in a few words; pipes and devices are refused, since they may have no
+// end.
+const char* ReadFileBytes(const char* path, FileBytes& bytes);

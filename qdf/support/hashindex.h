@@ -1,0 +1,62 @@
+#pragma once
+
+// HashIndex finds the first of several things with a property without a walk over all of them. It
+// stores a hash and a position for each; the things themselves stay where they are, and the caller
+// says whether the thing at a position is the one that it looks for.
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class HashIndex {
+ public:
+  void Add(std::uint32_t hash, int position) {
+    entries_.push_back({hash, position});
+    if (entries_.size() > kFlat) Link(entries_.size() - 1);
+  }
+
+  void Clear() {
+    entries_.clear();
+    slots_.clear();
+  }
+
+  // The position that was added first among those with this hash for which `same(position)` holds,
+  // -1 when there is none.
+  template <class Same>
+  int Find(std::uint32_t hash, Same same) const {
+    if (entries_.size() <= kFlat) {
+      for (const Entry& entry : entries_) {
+        if (entry.hash == hash && same(entry.position)) return entry.position;
+      }
+      return -1;
+    }
+    for (std::size_t slot = Scatter(hash); slots_[slot] != kFree; slot = Next(slot)) {
+      const Entry& entry = entries_[slots_[slot]];
+      if (entry.hash == hash && same(entry.position)) return entry.position;
+    }
+    return -1;
+  }
+
+ private:
+  struct Entry {
+    std::uint32_t hash;
+    int position;
+  };
+
+  // Up to this many entries a walk is cheaper than a table.
+  static constexpr std::size_t kFlat = 16;
+  static constexpr std::uint32_t kFree = 0xFFFFFFFFU;
+
+  // Neighbouring hashes, such as ids that count up, shall not fill neighbouring slots.
+  std::size_t Scatter(std::uint32_t hash) const {
+    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15U;
+    return static_cast<std::size_t>((hash * kOdd) >> 32U) & (slots_.size() - 1);
+  }
+  std::size_t Next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
+
+  // Entries go in by their order, so that the first of equal hashes is met first.
+  void Link(std::size_t entry);
+
+  std::vector<Entry> entries_;
+  std::vector<std::uint32_t> slots_;  // at most half of them taken
+};

@@ -1,0 +1,82 @@
+#include "qdf/support/numbers.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include "qdf/support/clocale.h"
+#include "qdf/support/text.h"
+
+namespace {
+
+// The "C" locale is static in the C library: naming it allocates nothing and needs no release.
+locale_t PlainLocale() {
+  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  return plain;
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Whole numbers of up to 15 digits, by far the most of what documents hold, are exact without
+// strtod.
+constexpr int kExactDigits = 15;
+
+}  // namespace
+
+CLocale::CLocale() : former_(uselocale(PlainLocale())) {}
+
+CLocale::~CLocale() { uselocale(former_); }
+
+int ReadInt(const char* text) {
+  while (IsSpace(*text)) ++text;
+  const bool negative = *text == '-';
+  if (negative || *text == '+') ++text;
+  constexpr std::int64_t kBeyond = std::int64_t{std::numeric_limits<int>::max()} + 1;
+  std::int64_t value = 0;
+  for (; IsDigit(*text); ++text) {
+    value = value * 10 + (*text - '0');
+    if (value > kBeyond) value = kBeyond;
+  }
+  if (negative) return static_cast<int>(-value);
+  return static_cast<int>(value < kBeyond ? value : kBeyond - 1);
+}
+
+double ReadDouble(const char* text) {
+  const char* next = text;
+  std::int64_t value = 0;
+  while (IsDigit(*next) && next - text < kExactDigits) value = value * 10 + (*next++ - '0');
+  const bool plain = next != text && !IsDigit(*next) && *next != '.' && UpperChar(*next) != 'E' &&
+                     UpperChar(*next) != 'X';
+  return plain ? static_cast<double>(value) : strtod_l(text, nullptr, PlainLocale());
+}
+
+void ScanDoubles(AString text, double* const* targets, std::size_t count) {
+  for (int i = 0; i < text.GetLength(); ++i) {
+    if (text[i] == ',') text.SetAt(i, ' ');
+  }
+  const CLocale plain;
+  const char* rest = text;
+  for (std::size_t i = 0; i < count; ++i) {
+    int used = 0;
+    // sscanf, not strtod: it takes no number from a broken exponent, such as "1e".
+    if (std::sscanf(rest, "%lf%n", targets[i], &used) != 1) return;  // NOLINT(cert-err34-c)
+    rest += used;
+  }
+}
+
+int TruncateToInt(double value) {
+  if (std::isnan(value)) return 0;
+  if (value >= std::numeric_limits<int>::max()) return std::numeric_limits<int>::max();
+  if (value <= std::numeric_limits<int>::min()) return std::numeric_limits<int>::min();
+  return static_cast<int>(value);
+}
+
+float NarrowToFloat(double value) {
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  if (std::isfinite(value) && std::fabs(value) > double{kLargest}) {
+    return value > 0 ? kLargest : -kLargest;
+  }
+  return static_cast<float>(value);
+}
