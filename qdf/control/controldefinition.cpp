@@ -1,0 +1,119 @@
+// Reads Control_Definition: five levels of one form, and the leaves under the last.
+
+#include <array>
+
+#include "qdf/control/ditherlist.h"
+#include "qdf/control/levels.h"
+#include "qdf/control/nametable.h"
+#include "qdf/control/readers.h"
+#include "qdf/definition/records.h"
+#include "qdf/support/uniqueids.h"
+
+namespace {
+
+constexpr std::size_t kLevels = 5;
+
+struct Level {
+  const char* element;
+  const char* defaultAttribute;  // names the default of the next level
+};
+
+constexpr std::array<Level, kLevels> kLevelForms = {{{"Ink", "DefaultMedia"},
+                                                     {"Media", "DefaultPrintMode"},
+                                                     {"PrintMode", "DefaultResolution"},
+                                                     {"Resolution", "DefaultColorMode"},
+                                                     {"ColorMode", nullptr}}};
+
+class ControlReader {
+ public:
+  ControlReader(AXMLTree& tree, std::array<LevelIDs, kLevels> ids, AStringArray& profileList,
+                AStringArray& oemInfoList, AStringArray& ditherNameList,
+                APtrArray& ditherResolutionList)
+      : tree_(tree),
+        ids_(std::move(ids)),
+        profiles_(profileList, NameCase::Ignored),
+        oemInfos_(oemInfoList, NameCase::Ignored),
+        ditherNames_(ditherNameList, NameCase::Exact),
+        ditherResolutionList_(ditherResolutionList) {}
+
+  void ReadLevel(std::size_t level, const AXMLTreeNode& parentElement, CQDFNode& parent) {
+    const Level& form = kLevelForms[level];
+    ForEachChild(tree_, parentElement, form.element, [&](const AXMLTreeNode& element) {
+      ADWordArray ids = ReadIDs(tree_, element, "ID", ids_[level]);
+      if (ids.GetSize() == 0) return;
+      CQDFNode* node = AddChildNode(parent, ids);
+      if (level + 1 == kLevels) {
+        ReadColorMode(element, *node);
+      } else {
+        node->Default = ReadDefault(tree_, element, form.defaultAttribute);
+        ReadLevel(level + 1, element, *node);
+      }
+    });
+  }
+
+ private:
+  void ReadColorMode(const AXMLTreeNode& element, CQDFNode& node) {
+    node.Default = -1;
+    ReadPrinterSpecificSetting(element, node);
+    ReadProfiles(element, *AddLeaf(node));
+    CQDFNode* ditherNode = AddLeaf(node);
+    CQDFNode* ripResolutionNode = AddChildNode(node);
+    AXMLTreeNode ditherList;
+    // Without a list the default dither is dropped.
+    if (tree_.getChild("DitherList", element, ditherList) == 0) return;
+    ReadDitherList(ditherNode, ripResolutionNode, &tree_, ditherList, ditherNames_,
+                   ditherResolutionList_, tree_.getAttribute(element, "DefaultDither"));
+  }
+
+  static CQDFNode* AddLeaf(CQDFNode& node) {
+    CQDFNode* leaf = AddChildNode(node);
+    leaf->Default = -1;
+    return leaf;
+  }
+
+  void ReadPrinterSpecificSetting(const AXMLTreeNode& element, CQDFNode& node) {
+    AXMLTreeNode setting;
+    if (tree_.getChild("PrinterSpecificSetting", element, setting) == 0) return;
+    AString text = tree_.getValue(setting);
+    text.TrimLeft();
+    text.TrimRight();
+    InternDefaultStringIfGiven(&node, text, oemInfos_);
+  }
+
+  // The default need not be among the profiles: it enters the list of names all the same.
+  void ReadProfiles(const AXMLTreeNode& element, CQDFNode& profileNode) {
+    InternDefaultStringIfGiven(&profileNode, tree_.getAttribute(element, "DefaultICCProfile"),
+                               profiles_);
+    UniqueIDs ids(profileNode.IDs);
+    ForEachChild(tree_, element, "ICCProfile", [&](const AXMLTreeNode& profile) {
+      ids.Add(static_cast<std::uint32_t>(profiles_.Intern(tree_.getValue(profile))));
+    });
+  }
+
+  AXMLTree& tree_;
+  std::array<LevelIDs, kLevels> ids_;
+  NameTable profiles_;
+  NameTable oemInfos_;
+  NameTable ditherNames_;
+  APtrArray& ditherResolutionList_;
+};
+
+}  // namespace
+
+int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaList,
+                          APtrArray& printModeList, APtrArray& resolutionList,
+                          APtrArray& colorModeList, CQDFNode& root, AStringArray& profileList,
+                          AStringArray& oemInfoList, AStringArray& ditherNameList,
+                          APtrArray& ditherResolutionList) {
+  if (tree == nullptr) return 0;
+  AXMLTreeNode section;
+  if (tree->getItem("Control_Definition", section) == 0) return 1;
+  ControlReader reader(*tree,
+                       {IDsOf<InkTypeInfo>(inkList), IDsOf<MediaTypeInfo>(mediaList),
+                        IDsOf<PrintModeInfo>(printModeList), IDsOf<ResolutionInfo>(resolutionList),
+                        IDsOf<ColorModeInfo>(colorModeList)},
+                       profileList, oemInfoList, ditherNameList, ditherResolutionList);
+  root.Default = ReadDefault(*tree, section, "DefaultInk");
+  reader.ReadLevel(0, section, root);
+  return 1;
+}

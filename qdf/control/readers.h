@@ -1,0 +1,23 @@
+#pragma once
+
+// The readers of the two sections that say what may be combined. Both append to the tree, which is
+// empty on a fresh document. What they don't understand they skip with all that is under it: an
+// element of another name, or one whose id list names no id of its level. The result is 0 for a
+// null tree, else 1, also when the document lacks the section.
+
+#include "qdf/core/qdfnode.h"
+#include "qdf/support/aarrays.h"
+#include "qdf/support/axmltree.h"
+
+// Reads Control_Definition. The lists of records give the ids that count; the last four arguments
+// take the names and the dither resolutions that the leaves of the tree refer to.
+int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaList,
+                          APtrArray& printModeList, APtrArray& resolutionList,
+                          APtrArray& colorModeList, CQDFNode& root, AStringArray& profileList,
+                          AStringArray& oemInfoList, AStringArray& ditherNameList,
+                          APtrArray& ditherResolutionList);
+
+// Reads MediaSource_Control. A media source that names no known id gives a node without ids, which
+// keeps what is under it.
+int ReadMediaSourceControl(AXMLTree* tree, APtrArray& mediaSourceList, APtrArray& mediaSizeList,
+                           APtrArray& marginInfoList, CQDFNode& root);
