@@ -7,6 +7,7 @@
 #include "qdf/control/nametable.h"
 #include "qdf/control/readers.h"
 #include "qdf/definition/records.h"
+#include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 
 namespace {
@@ -62,7 +63,7 @@ class ControlReader {
     // Without a list the default dither is dropped.
     if (tree_.getChild("DitherList", element, ditherList) == 0) return;
     ReadDitherList(ditherNode, ripResolutionNode, &tree_, ditherList, ditherNames_,
-                   ditherResolutionList_, tree_.getAttribute(element, "DefaultDither"));
+                   ditherResolutionList_, tree_.attributeText(element, "DefaultDither"));
   }
 
   static CQDFNode* AddLeaf(CQDFNode& node) {
@@ -74,19 +75,18 @@ class ControlReader {
   void ReadPrinterSpecificSetting(const AXMLTreeNode& element, CQDFNode& node) {
     AXMLTreeNode setting;
     if (tree_.getChild("PrinterSpecificSetting", element, setting) == 0) return;
-    AString text = tree_.getValue(setting);
-    text.TrimLeft();
-    text.TrimRight();
-    InternDefaultStringIfGiven(&node, text, oemInfos_);
+    AString joined;
+    InternDefaultStringIfGiven(&node, Trimmed(tree_.valueText(setting, joined)), oemInfos_);
   }
 
   // The default need not be among the profiles: it enters the list of names all the same.
   void ReadProfiles(const AXMLTreeNode& element, CQDFNode& profileNode) {
-    InternDefaultStringIfGiven(&profileNode, tree_.getAttribute(element, "DefaultICCProfile"),
+    InternDefaultStringIfGiven(&profileNode, tree_.attributeText(element, "DefaultICCProfile"),
                                profiles_);
+    AString joined;
     UniqueIDs ids(profileNode.IDs);
     ForEachChild(tree_, element, "ICCProfile", [&](const AXMLTreeNode& profile) {
-      ids.Add(static_cast<std::uint32_t>(profiles_.Intern(tree_.getValue(profile))));
+      ids.Add(static_cast<std::uint32_t>(profiles_.Intern(tree_.valueText(profile, joined))));
     });
   }
 

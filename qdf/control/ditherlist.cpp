@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "qdf/control/levels.h"
 #include "qdf/definition/resolutionvalue.h"
 #include "qdf/support/hashindex.h"
 #include "qdf/support/numbers.h"
@@ -15,54 +16,55 @@ namespace {
 // owner, and the owner's IDs tell which they are.
 class OwnRecords {
  public:
-  OwnRecords(CQDFNode* owner, APtrArray& records)
-      : owner_(owner), records_(records), ids_(owner->IDs) {
+  OwnRecords(CQDFNode* owner, APtrArray& records) : owner_(owner), records_(records) {
     for (const std::uint32_t id : owner->IDs) {
       if (id < static_cast<std::uint32_t>(records.GetSize())) Remember(static_cast<int>(id));
     }
   }
 
   void Add(std::string_view name, double x, double y) {
-    DitherResolutionInfo record{};
-    SetField(record.Name, name);
-    record.XResolution = x;
-    record.YResolution = y;
-    record.OwnerNode = owner_;
-    if (index_.Find(Hash(record), [&](int i) { return Same(At(i), record); }) >= 0) return;
-    const int added = Append(record);
-    Remember(added);
-    ids_.Add(static_cast<std::uint32_t>(added));
+    name = name.substr(0, sizeof DitherResolutionInfo::Name);
+    const std::uint32_t hash = Hash(name, x, y);
+    const auto same = [&](int i) { return Same(At(i), name, x, y); };
+    if (index_.Find(hash, same) >= 0) return;
+    auto record = std::make_unique<DitherResolutionInfo>();
+    SetField(record->Name, name);
+    record->XResolution = x;
+    record->YResolution = y;
+    record->OwnerNode = owner_;
+    AddOwned(records_, std::move(record));
+    const int added = records_.GetSize() - 1;
+    index_.Add(hash, added);
+    owner_->IDs.Add(static_cast<std::uint32_t>(added));
   }
 
  private:
-  static std::uint32_t Hash(const DitherResolutionInfo& record) {
-    const auto x = static_cast<std::uint32_t>(TruncateToInt(record.XResolution));
-    const auto y = static_cast<std::uint32_t>(TruncateToInt(record.YResolution));
+  // Resolutions count as equal when their whole numbers are.
+  static std::uint32_t Hash(std::string_view name, double x, double y) {
     constexpr std::uint32_t kFactor = 31;
-    return (HashText(FieldText(record.Name)) * kFactor + x) * kFactor + y;
+    const auto whole = [](double number) {
+      return static_cast<std::uint32_t>(TruncateToInt(number));
+    };
+    return (HashText(name) * kFactor + whole(x)) * kFactor + whole(y);
   }
 
-  static bool Same(const DitherResolutionInfo& a, const DitherResolutionInfo& b) {
-    return FieldText(a.Name) == FieldText(b.Name) &&
-           TruncateToInt(a.XResolution) == TruncateToInt(b.XResolution) &&
-           TruncateToInt(a.YResolution) == TruncateToInt(b.YResolution) &&
-           a.OwnerNode == b.OwnerNode;
+  bool Same(const DitherResolutionInfo& record, std::string_view name, double x, double y) const {
+    return FieldText(record.Name) == name &&
+           TruncateToInt(record.XResolution) == TruncateToInt(x) &&
+           TruncateToInt(record.YResolution) == TruncateToInt(y) && record.OwnerNode == owner_;
   }
 
   const DitherResolutionInfo& At(int index) const {
     return *static_cast<const DitherResolutionInfo*>(records_.GetAt(index));
   }
 
-  void Remember(int index) { index_.Add(Hash(At(index)), index); }
-
-  int Append(const DitherResolutionInfo& record) {
-    AddOwned(records_, std::make_unique<DitherResolutionInfo>(record));
-    return records_.GetSize() - 1;
+  void Remember(int index) {
+    const DitherResolutionInfo& record = At(index);
+    index_.Add(Hash(FieldText(record.Name), record.XResolution, record.YResolution), index);
   }
 
   CQDFNode* owner_;
   APtrArray& records_;
-  UniqueIDs ids_;
   HashIndex index_;
 };
 
@@ -70,23 +72,21 @@ class OwnRecords {
 
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, NameTable& ditherNames,
-                    APtrArray& ditherResolutionList, AString defaultDither) {
-  InternDefaultStringExact(ditherNode, ditherNames, std::move(defaultDither));
+                    APtrArray& ditherResolutionList, std::string_view defaultDither) {
+  InternDefaultStringExact(ditherNode, ditherNames, defaultDither);
   const bool supportsAll = ReadInt(tree->attributeText(ditherList, "SupportAll")) > 0;
   UniqueIDs dithers(ditherNode->IDs);
   OwnRecords records(ripResolutionNode, ditherResolutionList);
-  AXMLTreeNode dither;
-  for (int i = 0; tree->getChild(i, ditherList, dither) != 0; ++i) {
-    if (!tree->isNamed(dither, "Dither")) continue;
-    const AString name = tree->getAttribute(dither, "Name");
-    if (name.GetLength() == 0) continue;
+  ForEachChild(*tree, ditherList, "Dither", [&](const AXMLTreeNode& dither) {
+    const char* name = tree->attributeText(dither, "Name");
+    if (*name == '\0') return;
     if (!supportsAll) dithers.Add(static_cast<std::uint32_t>(ditherNames.Intern(name)));
     double x = 0.0;
     double y = 0.0;
     ReadResolutionValue(tree->attributeText(dither, "RipResolution"), x, y);
-    if (x <= 0.0 || y <= 0.0) continue;
-    records.Add(static_cast<const char*>(name), x, y);
-  }
+    if (x <= 0.0 || y <= 0.0) return;
+    records.Add(name, x, y);
+  });
 }
 
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
@@ -94,5 +94,5 @@ void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree*
                     APtrArray& ditherResolutionList, AString defaultDither) {
   NameTable names(ditherNameList, NameCase::Exact);
   ReadDitherList(ditherNode, ripResolutionNode, tree, ditherList, names, ditherResolutionList,
-                 std::move(defaultDither));
+                 View(defaultDither));
 }

@@ -26,4 +26,4 @@ void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree*
 // The same with the table of the name list that the caller keeps over many lists.
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, NameTable& ditherNames,
-                    APtrArray& ditherResolutionList, AString defaultDither);
+                    APtrArray& ditherResolutionList, std::string_view defaultDither);

@@ -48,18 +48,20 @@ void ParseIDList(std::string_view text, const LevelIDs& level, ADWordArray& ids)
   listed = Behind(listed, '(');
   listed = listed.substr(0, listed.find(')'));
 
-  ADWordArray named;
-  UniqueIDs unique(named);
-  ReadPieces(listed, level, unique);
   if (!exclusion) {
-    ids.Copy(named);
+    ids.SetSize(0, -1);
+    UniqueIDs unique(ids);
+    ReadPieces(listed, level, unique);
     return;
   }
+  ADWordArray excluded;
+  UniqueIDs unique(excluded);
+  ReadPieces(listed, level, unique);
   for (const std::uint32_t id : level.All()) {
     if (!unique.Holds(id)) ids.Add(id);
   }
 }
 
 void ParseIDList(AString& text, ADWordArray& allIDs, ADWordArray& ids) {
-  ParseIDList(static_cast<const char*>(text), LevelIDs(allIDs), ids);
+  ParseIDList(View(text), LevelIDs(allIDs), ids);
 }

@@ -34,7 +34,8 @@ inline int ReadDefault(const AXMLTree& tree, const AXMLTreeNode& element, const 
 template <class Read>
 void ForEachChild(const AXMLTree& tree, const AXMLTreeNode& parent, const char* name, Read read) {
   AXMLTreeNode child;
-  for (int i = 0; tree.getChild(i, parent, child) != 0; ++i) {
-    if (tree.isNamed(child, name)) read(child);
-  }
+  if (tree.getChild(name, parent, child) == 0) return;
+  do {
+    read(child);
+  } while (tree.getNext(name, child) != 0);
 }

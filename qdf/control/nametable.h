@@ -20,7 +20,7 @@ class NameTable {
   // The index of the first equal name, -1 when there is none.
   int Find(std::string_view name) const;
   // The same, but a name that isn't there is appended.
-  int Intern(const AString& name);
+  int Intern(std::string_view name);
 
  private:
   std::uint32_t Hash(std::string_view name) const;
@@ -47,6 +47,6 @@ int FindExactString(AString& text, AStringArray& names);
 void InternDefaultStringExact(CQDFNode* node, AStringArray& names, AString text);
 
 // The same with a table that the caller keeps; its case decides.
-void InternDefaultString(CQDFNode* node, const AString& text, NameTable& names);
-void InternDefaultStringIfGiven(CQDFNode* node, const AString& text, NameTable& names);
-void InternDefaultStringExact(CQDFNode* node, NameTable& names, AString text);
+void InternDefaultString(CQDFNode* node, std::string_view text, NameTable& names);
+void InternDefaultStringIfGiven(CQDFNode* node, std::string_view text, NameTable& names);
+void InternDefaultStringExact(CQDFNode* node, NameTable& names, std::string_view text);

@@ -26,7 +26,7 @@ struct Entry {
   template <std::size_t N>
   void Read(const char* name, char (&field)[N]) const {
     AString value;
-    if (Find(name, value)) SetField(field, static_cast<const char*>(value));
+    if (Find(name, value)) SetField(field, View(value));
   }
 
   // Numbers that blanks or commas separate, to the targets in the order of the text.

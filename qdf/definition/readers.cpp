@@ -43,7 +43,7 @@ bool ReadEntry(const Entry& entry, ResolutionInfo& resolution) {
   entry.Read("DisplayName", resolution.DisplayName);
   AString value;
   if (entry.Find("Value", value)) {
-    ReadResolutionValue(value, resolution.XResolution, resolution.YResolution);
+    ReadResolutionValue(View(value), resolution.XResolution, resolution.YResolution);
   }
   return true;
 }

@@ -1,17 +1,11 @@
 #include "qdf/definition/resolutionvalue.h"
 
-#include <cstring>
-
 #include "qdf/support/numbers.h"
+#include "qdf/support/text.h"
 
-void ReadResolutionValue(const char* text, double& x, double& y) {
-  const char* separator = std::strpbrk(text, "xX");
-  if (separator == nullptr) {
-    x = y = ReadDouble(text);
-    return;
-  }
-  // The first part is cut off: a number must not be read beyond the separator, as "0x10" would be.
-  const AString first = AString(text).Left(static_cast<int>(separator - text));
-  x = ReadDouble(first);
-  y = ReadDouble(separator + 1);
+void ReadResolutionValue(std::string_view text, double& x, double& y) {
+  std::size_t separator = 0;
+  while (separator < text.size() && UpperChar(text[separator]) != 'X') ++separator;
+  x = ReadDouble(text.substr(0, separator));
+  y = separator < text.size() ? ReadDouble(text.substr(separator + 1)) : x;
 }

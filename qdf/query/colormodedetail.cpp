@@ -122,7 +122,7 @@ int APMQDF::GetRipResolutionForDither(const int& ink, const int& media, const in
   if (FindColorModeNode(ink, media, printMode, resolution, colorMode, node) == 0) return 0;
   const CQDFNode* leaf = FindLeaf(*node, kRipResolutionLeaf);
   if (leaf == nullptr) return 0;
-  const std::string_view wanted = static_cast<const char*>(dither);
+  const std::string_view wanted = View(dither);
   for (const std::uint32_t id : leaf->IDs) {
     const int index = static_cast<int>(id);
     if (!IsIndexOf(index, DitherResolutionList.GetSize())) continue;

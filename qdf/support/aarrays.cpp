@@ -14,11 +14,18 @@ int AppendAll(std::vector<Element>& target, const std::vector<Element>& other) {
   return static_cast<int>(former);
 }
 
+// Most arrays that grow at all end up with several elements: the first steps of growth are left
+// out.
+template <class Element>
+void PushBack(std::vector<Element>& target, Element element) {
+  constexpr std::size_t kFirstCapacity = 64 / sizeof(Element);
+  if (target.capacity() == 0) target.reserve(kFirstCapacity);
+  target.push_back(element);
+}
+
 std::size_t NotNegative(int size) { return static_cast<std::size_t>(std::max(size, 0)); }
 
 }  // namespace
-
-AStringArray::~AStringArray() = default;
 
 int AStringArray::Add(const char* text) {
   texts_.emplace_back(text);
@@ -27,10 +34,8 @@ int AStringArray::Add(const char* text) {
 
 int AStringArray::Append(const AStringArray& other) { return AppendAll(texts_, other.texts_); }
 
-APtrArray::~APtrArray() = default;
-
 int APtrArray::Add(void* pointer) {
-  pointers_.push_back(pointer);
+  PushBack(pointers_, pointer);
   return GetSize() - 1;
 }
 
@@ -41,10 +46,8 @@ void APtrArray::InsertAt(int index, void* pointer, int count) {
 
 void APtrArray::SetSize(int size, int /*growth*/) { pointers_.resize(NotNegative(size)); }
 
-ADWordArray::~ADWordArray() = default;
-
 int ADWordArray::Add(std::uint32_t word) {
-  words_.push_back(word);
+  PushBack(words_, word);
   return GetSize() - 1;
 }
 

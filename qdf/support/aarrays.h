@@ -16,7 +16,7 @@ class APMQDF_EXPORT AStringArray {
   AStringArray() = default;
   AStringArray(const AStringArray&) = default;
   AStringArray& operator=(const AStringArray&) = default;
-  virtual ~AStringArray();
+  virtual ~AStringArray() = default;
 
   int Add(const char* text);
   int Append(const AStringArray& other);
@@ -39,7 +39,7 @@ class APMQDF_EXPORT APtrArray {
   APtrArray() = default;
   APtrArray(const APtrArray&) = default;
   APtrArray& operator=(const APtrArray&) = default;
-  virtual ~APtrArray();
+  virtual ~APtrArray() = default;
 
   int Add(void* pointer);
   // Puts the pointer `count` times ahead of the element at the index; an index at or beyond the end
@@ -64,7 +64,7 @@ class APMQDF_EXPORT ADWordArray {
   ADWordArray() = default;
   ADWordArray(const ADWordArray&) = default;
   ADWordArray& operator=(const ADWordArray&) = default;
-  virtual ~ADWordArray();
+  virtual ~ADWordArray() = default;
 
   int Add(std::uint32_t word);
   int Append(const ADWordArray& other);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "qdf/support/text.h"
+
 namespace {
 
 std::string_view WithoutTrailingSlashes(std::string_view path) {
@@ -18,7 +20,7 @@ AFilePath& AFilePath::operator+=(const char* component) {
   std::string_view added(component != nullptr ? component : "");
   if (added.empty()) return *this;
   while (!added.empty() && added.front() == '/') added.remove_prefix(1);
-  std::string joined(WithoutTrailingSlashes(static_cast<const char*>(path_)));
+  std::string joined(WithoutTrailingSlashes(View(path_)));
   if (!joined.empty() && joined.back() != '/') joined += '/';
   joined += added;
   path_ = joined.c_str();
@@ -40,7 +42,7 @@ int AFilePath::isDirectory() const {
 }
 
 void AFilePath::getFileName(AString& name) const {
-  const std::string_view path = WithoutTrailingSlashes(static_cast<const char*>(path_));
+  const std::string_view path = WithoutTrailingSlashes(View(path_));
   const std::size_t slash = path.rfind('/');
   // A path of separators only has no last component.
   const std::string_view last = slash == std::string_view::npos ? path : path.substr(slash + 1);

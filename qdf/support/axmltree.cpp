@@ -1,12 +1,12 @@
 #include "qdf/support/axmltree.h"
 
 #include <algorithm>
-#include <cstring>
 #include <pugixml.hpp>
 #include <string_view>
 
 #include "qdf/support/filebytes.h"
 #include "qdf/support/nothrow.h"
+#include "qdf/support/text.h"
 #include "qdf/support/xmlwellformed.h"
 
 // The parser works inside `bytes`, and the nodes of `xml` point into them: they must outlive it.
@@ -18,8 +18,11 @@ struct AXMLTree::Document {
 
 namespace {
 
-// White space is kept: it may be part of a value that comments or CDATA sections split.
-constexpr unsigned int kParseOptions = pugi::parse_default | pugi::parse_ws_pcdata;
+// White space is text where it is all that an element holds; elsewhere only where it may be a piece
+// of a text that is split. Nodes for the layout between elements would cost much and tell nothing.
+unsigned int ParseOptions(bool splitsText) {
+  return pugi::parse_default | (splitsText ? pugi::parse_ws_pcdata : pugi::parse_ws_pcdata_single);
+}
 
 AXMLFault FaultAt(std::string_view text, std::size_t offset, const char* reason) {
   const std::string_view before = text.substr(0, std::min(offset, text.size()));
@@ -44,6 +47,10 @@ bool IsText(const pugi::xml_node& node) {
   return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
 }
 
+bool IsLayout(const pugi::xml_node& node) {
+  return node.type() == pugi::node_pcdata && Trimmed(node.value()).empty();
+}
+
 pugi::xml_node ElementFrom(pugi::xml_node node) {
   while (node && !IsElement(node)) node = node.next_sibling();
   return node;
@@ -53,8 +60,6 @@ pugi::xml_node ElementFrom(pugi::xml_node node) {
 const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
 
 }  // namespace
-
-AXMLTreeNode::~AXMLTreeNode() = default;
 
 AXMLTree::AXMLTree(const AString& rootName) : document_(std::make_unique<Document>()) {
   document_->xml.append_child(static_cast<const char*>(rootName));
@@ -71,13 +76,13 @@ int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
     document_->fault = FileFault(unreadable);
     return 0;
   }
-  const XMLFault fault = FindXMLFault(bytes.Text());
-  if (fault.reason != nullptr) {
-    document_->fault = FaultAt(bytes.Text(), fault.offset, fault.reason);
+  const XMLFindings findings = ExamineXML(bytes.Text());
+  if (findings.fault != nullptr) {
+    document_->fault = FaultAt(bytes.Text(), findings.offset, findings.fault);
     return 0;
   }
   const pugi::xml_parse_result result = document_->xml.load_buffer_inplace(
-      bytes.data.get(), bytes.size, kParseOptions, pugi::encoding_utf8);
+      bytes.data.get(), bytes.size, ParseOptions(findings.splitsText), pugi::encoding_utf8);
   if (result) return 1;
   document_->xml.reset();
   // The parser has written over the text, so the line is counted in a fresh copy.
@@ -144,9 +149,11 @@ int AXMLTree::getChildCount(AXMLTreeNode node) const {
 AString AXMLTree::getName(AXMLTreeNode node) const { return pugi::xml_node(node.element_).name(); }
 
 AString AXMLTree::getValue(AXMLTreeNode node) const {
+  const pugi::xml_node element(node.element_);
+  const bool hasElements = static_cast<bool>(ElementFrom(element.first_child()));
   AString value;
-  for (const pugi::xml_node part : pugi::xml_node(node.element_).children()) {
-    if (IsText(part)) value += part.value();
+  for (const pugi::xml_node part : element.children()) {
+    if (IsText(part) && !(hasElements && IsLayout(part))) value += part.value();
   }
   return value;
 }
@@ -155,12 +162,22 @@ AString AXMLTree::getAttribute(AXMLTreeNode node, const char* name) const {
   return attributeText(node, name);
 }
 
-bool AXMLTree::isNamed(const AXMLTreeNode& node, const char* name) const {
-  return std::strcmp(pugi::xml_node(node.element_).name(), name) == 0;
+int AXMLTree::getNext(const char* name, AXMLTreeNode& node) const {
+  const pugi::xml_node next = pugi::xml_node(node.element_).next_sibling(OrEmpty(name));
+  if (!next) return 0;
+  node.element_ = next.internal_object();
+  return 1;
 }
 
 const char* AXMLTree::attributeText(const AXMLTreeNode& node, const char* name) const {
   return pugi::xml_node(node.element_).attribute(OrEmpty(name)).value();
+}
+
+const char* AXMLTree::valueText(const AXMLTreeNode& node, AString& joined) const {
+  const pugi::xml_node first = pugi::xml_node(node.element_).first_child();
+  if (IsText(first) && !first.next_sibling()) return first.value();
+  joined = getValue(node);
+  return joined;
 }
 
 int AXMLTree::addItem(AXMLTreeNode& item, const char* name, const char* value) {

@@ -21,7 +21,7 @@ class APMQDF_EXPORT AXMLTreeNode {
   AXMLTreeNode() = default;
   AXMLTreeNode(const AXMLTreeNode&) = default;
   AXMLTreeNode& operator=(const AXMLTreeNode&) = default;
-  virtual ~AXMLTreeNode();
+  virtual ~AXMLTreeNode() = default;
 
  private:
   friend class AXMLTree;
@@ -71,15 +71,19 @@ class APMQDF_EXPORT AXMLTree {
 
   int getChildCount(AXMLTreeNode node) const;
   AString getName(AXMLTreeNode node) const;
-  // The element's own text: its character data and CDATA sections joined, blanks kept.
+  // The element's own text: its character data and CDATA sections joined, blanks kept. Only where
+  // child elements stand, what is nothing but blanks between them is layout, not text.
   AString getValue(AXMLTreeNode node) const;
   // Empty when the attribute is missing.
   AString getAttribute(AXMLTreeNode node, const char* name) const;
 
-  // The same answers without a copy: whether the element bears that name, and the text of an
-  // attribute, valid while the tree is.
-  bool isNamed(const AXMLTreeNode& node, const char* name) const;
+  // Moves the handle to the next element of that name beside it; 0, and the handle left alone,
+  // when there is none. Together with getChild by name this goes through all children of a name.
+  int getNext(const char* name, AXMLTreeNode& node) const;
+  // The texts of an attribute and of an element, without a copy where the tree holds them in one
+  // piece; a text in pieces is joined in `joined`. Valid while the tree and `joined` are.
   const char* attributeText(const AXMLTreeNode& node, const char* name) const;
+  const char* valueText(const AXMLTreeNode& node, AString& joined) const;
 
   // Each of these adds an element with that name and, when it isn't empty, that text, and gives
   // non-zero and its handle: behind the root's children, or among the parent's children at that

@@ -51,7 +51,7 @@ const char* ReadFileBytes(const char* path, FileBytes& bytes) {
   if (!S_ISREG(status.st_mode)) return "it is no regular file";
 
   const auto expected = static_cast<std::size_t>(status.st_size);
-  bytes.data = std::make_unique_for_overwrite<char[]>(expected);
+  bytes.data = std::make_unique_for_overwrite<char[]>(expected + 1);
   bytes.size = 0;
   while (bytes.size < expected) {
     const ssize_t got = read(file.Number(), bytes.data.get() + bytes.size, expected - bytes.size);
@@ -60,5 +60,6 @@ const char* ReadFileBytes(const char* path, FileBytes& bytes) {
     if (got == 0) break;  // the file has shrunk
     bytes.size += static_cast<std::size_t>(got);
   }
+  bytes.data[bytes.size] = '\0';
   return nullptr;
 }

@@ -7,7 +7,7 @@
 #include <string_view>
 
 struct FileBytes {
-  std::unique_ptr<char[]> data;
+  std::unique_ptr<char[]> data;  // with a NUL behind the last byte
   std::size_t size = 0;
 
   std::string_view Text() const { return {data.get(), size}; }

@@ -1,15 +1,22 @@
 #include "qdf/support/hashindex.h"
 
-void HashIndex::Link(std::size_t entry) {
-  if (slots_.size() < entries_.size() * 2) {
-    std::size_t size = kFlat * 2;
-    while (size < entries_.size() * 4) size *= 2;
+void HashIndex::AddToTable(Entry entry) {
+  if (many_.empty()) many_.assign(few_.begin(), few_.end());
+  many_.push_back(entry);
+  if (slots_.size() >= many_.size() * 2) {
+    LinkFrom(many_.size() - 1);
+  } else {
+    std::size_t size = kFew * 2;
+    while (size < many_.size() * 4) size *= 2;
     slots_.assign(size, kFree);
-    entry = 0;
+    LinkFrom(0);
   }
-  for (; entry < entries_.size(); ++entry) {
-    std::size_t slot = Scatter(entries_[entry].hash);
+}
+
+void HashIndex::LinkFrom(std::size_t first) {
+  for (std::size_t i = first; i < many_.size(); ++i) {
+    std::size_t slot = Scatter(many_[i].hash);
     while (slots_[slot] != kFree) slot = Next(slot);
-    slots_[slot] = static_cast<std::uint32_t>(entry);
+    slots_[slot] = static_cast<std::uint32_t>(i);
   }
 }

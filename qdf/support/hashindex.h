@@ -4,6 +4,7 @@
 // stores a hash and a position for each; the things themselves stay where they are, and the caller
 // says whether the thing at a position is the one that it looks for.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -11,12 +12,17 @@
 class HashIndex {
  public:
   void Add(std::uint32_t hash, int position) {
-    entries_.push_back({hash, position});
-    if (entries_.size() > kFlat) Link(entries_.size() - 1);
+    if (size_ < kFew) {
+      few_[size_] = {hash, position};
+    } else {
+      AddToTable({hash, position});
+    }
+    ++size_;
   }
 
   void Clear() {
-    entries_.clear();
+    size_ = 0;
+    many_.clear();
     slots_.clear();
   }
 
@@ -24,14 +30,14 @@ class HashIndex {
   // -1 when there is none.
   template <class Same>
   int Find(std::uint32_t hash, Same same) const {
-    if (entries_.size() <= kFlat) {
-      for (const Entry& entry : entries_) {
-        if (entry.hash == hash && same(entry.position)) return entry.position;
+    if (size_ <= kFew) {
+      for (std::size_t i = 0; i < size_; ++i) {
+        if (few_[i].hash == hash && same(few_[i].position)) return few_[i].position;
       }
       return -1;
     }
     for (std::size_t slot = Scatter(hash); slots_[slot] != kFree; slot = Next(slot)) {
-      const Entry& entry = entries_[slots_[slot]];
+      const Entry& entry = many_[slots_[slot]];
       if (entry.hash == hash && same(entry.position)) return entry.position;
     }
     return -1;
@@ -43,8 +49,8 @@ class HashIndex {
     int position;
   };
 
-  // Up to this many entries a walk is cheaper than a table.
-  static constexpr std::size_t kFlat = 16;
+  // Most indexes stay small: up to this many entries a walk is cheaper than a table.
+  static constexpr std::size_t kFew = 16;
   static constexpr std::uint32_t kFree = 0xFFFFFFFFU;
 
   // Neighbouring hashes, such as ids that count up, shall not fill neighbouring slots.
@@ -54,9 +60,12 @@ class HashIndex {
   }
   std::size_t Next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
 
+  void AddToTable(Entry entry);
   // Entries go in by their order, so that the first of equal hashes is met first.
-  void Link(std::size_t entry);
+  void LinkFrom(std::size_t first);
 
-  std::vector<Entry> entries_;
-  std::vector<std::uint32_t> slots_;  // at most half of them taken
+  std::size_t size_ = 0;
+  std::array<Entry, kFew> few_;
+  std::vector<Entry> many_;           // all entries, once they are more than a few
+  std::vector<std::uint32_t> slots_;  // indices into many_; at most half of them taken
 };

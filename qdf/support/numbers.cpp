@@ -1,10 +1,12 @@
 #include "qdf/support/numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <string>
 
 #include "qdf/support/clocale.h"
 #include "qdf/support/text.h"
@@ -21,7 +23,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Whole numbers of up to 15 digits, by far the most of what documents hold, are exact without
 // strtod.
-constexpr int kExactDigits = 15;
+constexpr std::size_t kExactDigits = 15;
 
 }  // namespace
 
@@ -43,13 +45,13 @@ int ReadInt(const char* text) {
   return static_cast<int>(value < kBeyond ? value : kBeyond - 1);
 }
 
-double ReadDouble(const char* text) {
-  const char* next = text;
+double ReadDouble(std::string_view text) {
+  const bool plain = !text.empty() && text.size() <= kExactDigits &&
+                     std::all_of(text.begin(), text.end(), IsDigit);
+  if (!plain) return strtod_l(std::string(text).c_str(), nullptr, PlainLocale());
   std::int64_t value = 0;
-  while (IsDigit(*next) && next - text < kExactDigits) value = value * 10 + (*next++ - '0');
-  const bool plain = next != text && !IsDigit(*next) && *next != '.' && UpperChar(*next) != 'E' &&
-                     UpperChar(*next) != 'X';
-  return plain ? static_cast<double>(value) : strtod_l(text, nullptr, PlainLocale());
+  for (const char digit : text) value = value * 10 + (digit - '0');
+  return static_cast<double>(value);
 }
 
 void ScanDoubles(AString text, double* const* targets, std::size_t count) {

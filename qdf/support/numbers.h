@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 #include "qdf/support/astring.h"
 
@@ -13,7 +14,7 @@
 int ReadInt(const char* text);
 
 // The leading number of the text as atof reads it: 0 without one; "inf" and "nan" are numbers too.
-double ReadDouble(const char* text);
+double ReadDouble(std::string_view text);
 
 // Scans up to N numbers that blanks or commas separate and stores each in its target. The scan
 // stops at the first text that is no number, and the targets from there on keep their values.

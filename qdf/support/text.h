@@ -9,11 +9,17 @@
 #include <cstring>
 #include <string_view>
 
+#include "qdf/support/astring.h"
+
 constexpr char UpperChar(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+inline std::string_view View(const AString& text) {
+  return {static_cast<const char*>(text), static_cast<std::size_t>(text.GetLength())};
+}
 
 bool EqualNoCase(std::string_view a, std::string_view b);
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "qdf/support/hashindex.h"
@@ -40,96 +41,135 @@ constexpr std::array<std::uint8_t, 256> MakeClasses() {
 
 constexpr std::array<std::uint8_t, 256> kClasses = MakeClasses();
 
+constexpr const char* kControlReason = "there is a control character";
+constexpr const char* kTextBesideRoot = "there is text beside the root element";
+
 bool Is(char c, std::uint8_t bits) { return (kClasses[static_cast<unsigned char>(c)] & bits) != 0; }
 
+// The NUL behind the text is a control character: it ends every loop, so that none has to look for
+// the end of the text.
 class Scanner {
  public:
-  explicit Scanner(std::string_view text) : text_(text) {}
+  explicit Scanner(std::string_view text)
+      : begin_(text.data()), at_(begin_), end_(begin_ + text.size()) {}
 
-  XMLFault Run() {
+  XMLFindings Run() {
     if (StartsWith("\xEF\xBB\xBF")) at_ += 3;
     start_ = at_;
-    while (fault_.reason == nullptr && at_ < text_.size()) {
-      if (text_[at_] == '<') {
+    while (findings_.fault == nullptr && at_ != end_) {
+      if (*at_ == '<') {
         Markup();
+      } else if (open_.empty()) {
+        BesideRoot();
       } else {
         Text();
       }
     }
-    if (fault_.reason == nullptr && !open_.empty())
-      Fail("this element is not closed", open_.back());
-    if (fault_.reason == nullptr && !rootSeen_) Fail("there is no root element");
-    return fault_;
+    if (findings_.fault == nullptr && !open_.empty()) {
+      Fail("this element is not closed", open_.back().begin);
+    }
+    if (findings_.fault == nullptr && !rootSeen_) Fail("there is no root element");
+    return findings_;
   }
 
  private:
-  struct Mark {
-    std::size_t offset;
+  struct OpenElement {
+    const char* begin;
     std::string_view name;
   };
 
-  bool Fail(const char* reason, std::size_t offset) {
-    fault_ = {reason, offset};
+  bool Fail(const char* reason, const char* place) {
+    findings_.fault = reason;
+    findings_.offset = static_cast<std::size_t>(place - begin_);
     return false;
   }
   bool Fail(const char* reason) { return Fail(reason, at_); }
-  bool Fail(const char* reason, const Mark& mark) { return Fail(reason, mark.offset); }
 
+  std::string_view Rest() const { return {at_, static_cast<std::size_t>(end_ - at_)}; }
   bool StartsWith(std::string_view wanted) const {
-    return text_.compare(at_, wanted.size(), wanted) == 0;
+    return Rest().size() >= wanted.size() && std::memcmp(at_, wanted.data(), wanted.size()) == 0;
   }
-  bool AtEnd() const { return at_ >= text_.size(); }
-  bool At(char c) const { return !AtEnd() && text_[at_] == c; }
-  bool AtClass(std::uint8_t bits) const { return !AtEnd() && Is(text_[at_], bits); }
+
+  // The first place from here on that is, or is not, of these classes.
+  const char* FirstOf(std::uint8_t bits) const {
+    const char* place = at_;
+    while (!Is(*place, bits)) ++place;
+    return place;
+  }
+  const char* FirstNotOf(std::uint8_t bits) const {
+    const char* place = at_;
+    while (Is(*place, bits)) ++place;
+    return place;
+  }
 
   bool SkipSpace() {
-    const std::size_t before = at_;
-    while (AtClass(kSpace)) ++at_;
+    const char* before = at_;
+    at_ = FirstNotOf(kSpace);
     return at_ != before;
   }
 
+  // Documents repeat themselves: indentation and names are mostly those of the line before. Trying
+  // the former text first takes one comparison instead of a look at each byte.
+  bool SkipRepeated(std::string_view former, std::uint8_t goesOn) {
+    if (former.empty() || !StartsWith(former) || Is(at_[former.size()], goesOn)) return false;
+    at_ += former.size();
+    return true;
+  }
+
+  void SkipLayout() {
+    if (SkipRepeated(layout_, kSpace)) return;
+    const char* begin = at_;
+    SkipSpace();
+    layout_ = {begin, static_cast<std::size_t>(at_ - begin)};
+  }
+
   bool Expect(char c, const char* reason) {
-    if (!At(c)) return Fail(reason);
+    if (*at_ != c) return Fail(reason);
     ++at_;
     return true;
   }
 
-  // Moves behind the next `end`; what is skipped holds no control characters.
-  bool SkipPast(std::string_view end, const char* reason) {
-    const std::size_t found = text_.find(end, at_);
-    if (found == std::string_view::npos) return Fail(reason);
-    for (; at_ < found; ++at_) {
-      if (AtClass(kControl)) return Fail(kControlReason);
-    }
-    at_ = found + end.size();
+  // Moves behind the next `closing`; what is skipped holds no control characters.
+  bool SkipPast(std::string_view closing, const char* openReason) {
+    const char* begin = at_;
+    const std::size_t length = Rest().find(closing);
+    if (length == std::string_view::npos) return Fail(openReason, begin);
+    const char* last = begin + length;
+    while (at_ != last && !Is(*at_, kControl)) ++at_;
+    if (at_ != last) return Fail(kControlReason);
+    at_ += closing.size();
     return true;
   }
 
+  // `name` holds a former name on entry and the new one on return.
   bool Name(std::string_view& name) {
-    if (!AtClass(kNameStart)) return Fail("a name is missing or begins with a wrong character");
-    const std::size_t begin = at_;
-    while (AtClass(kName)) ++at_;
-    name = text_.substr(begin, at_ - begin);
+    if (SkipRepeated(name, kName)) return true;
+    if (!Is(*at_, kNameStart)) return Fail("a name is missing or begins with a wrong character");
+    const char* begin = at_;
+    at_ = FirstNotOf(kName);
+    name = {begin, static_cast<std::size_t>(at_ - begin)};
     return true;
+  }
+
+  void BesideRoot() {
+    SkipLayout();
+    if (at_ != end_ && *at_ != '<') Fail(kTextBesideRoot);
   }
 
   void Text() {
-    while (!AtEnd()) {
-      while (!AtEnd() && !AtClass(kTextStop) && (!open_.empty() || AtClass(kSpace))) ++at_;
-      if (AtEnd() || At('<')) return;
-      if (open_.empty()) {
-        Fail("there is text beside the root element");
-        return;
-      }
-      if (At(']')) {
+    SkipLayout();
+    while (true) {
+      at_ = FirstOf(kTextStop);
+      if (*at_ == '<' || at_ == end_) return;
+      if (*at_ == ']') {
         if (StartsWith("]]>")) Fail("\"]]>\" stands in text");
         ++at_;
-      } else if (At('&')) {
+      } else if (*at_ == '&') {
         Reference();
       } else {
         Fail(kControlReason);
       }
-      if (fault_.reason != nullptr) return;
+      if (findings_.fault != nullptr) return;
     }
   }
 
@@ -143,21 +183,21 @@ class Scanner {
   }
 
   bool CharacterNumber() {
-    const std::size_t begin = at_;
+    const char* begin = at_;
     const bool hex = StartsWith("&#x");
     at_ += hex ? 3 : 2;
     constexpr std::uint32_t kLast = 0x10FFFF;
     std::uint32_t number = 0;
     bool digits = false;
-    for (; !AtEnd(); ++at_, digits = true) {
-      const char c = UpperChar(text_[at_]);
+    for (;; ++at_, digits = true) {
+      const char c = UpperChar(*at_);
       const bool letter = hex && c >= 'A' && c <= 'F';
       if (!letter && (c < '0' || c > '9')) break;
       const int digit = letter ? c - 'A' + 10 : c - '0';
       if (number <= kLast) number = number * (hex ? 16U : 10U) + static_cast<std::uint32_t>(digit);
     }
     const bool surrogate = number >= 0xD800 && number <= 0xDFFF;
-    if (!digits || !At(';') || number == 0 || number > kLast || surrogate) {
+    if (!digits || *at_ != ';' || number == 0 || number > kLast || surrogate) {
       return Fail("a character reference names no character", begin);
     }
     ++at_;
@@ -165,22 +205,29 @@ class Scanner {
   }
 
   void Markup() {
-    if (StartsWith("<!--")) {
+    if (at_[1] == '/') {
+      EndTag();
+    } else if (at_[1] != '?' && at_[1] != '!') {
+      StartTag();
+    } else {
+      findings_.splitsText = findings_.splitsText || !open_.empty();
+      OtherMarkup();
+    }
+  }
+
+  void OtherMarkup() {
+    if (at_[1] == '?') {
+      Instruction();
+    } else if (StartsWith("<!--")) {
       Comment();
+    } else if (StartsWith("<![CDATA[") && open_.empty()) {
+      Fail(kTextBesideRoot);
     } else if (StartsWith("<![CDATA[")) {
-      if (open_.empty()) {
-        Fail("there is text beside the root element");
-      } else {
-        SkipPast("]]>", "this CDATA section is not closed");
-      }
+      SkipPast("]]>", "this CDATA section is not closed");
     } else if (StartsWith("<!DOCTYPE")) {
       Doctype();
-    } else if (StartsWith("<?")) {
-      Instruction();
-    } else if (StartsWith("</")) {
-      EndTag();
     } else {
-      StartTag();
+      Fail("\"<!\" begins nothing that is known");
     }
   }
 
@@ -190,13 +237,13 @@ class Scanner {
   }
 
   void Instruction() {
-    const std::size_t begin = at_;
+    const char* begin = at_;
     at_ += 2;
     std::string_view target;
     if (!Name(target)) return;
     if (EqualNoCase(target, "xml") && (begin != start_ || target != "xml")) {
       Fail("an XML declaration stands elsewhere than at the start", begin);
-    } else if (!AtClass(kSpace) && !StartsWith("?>")) {
+    } else if (!Is(*at_, kSpace) && !StartsWith("?>")) {
       Fail("a name holds a wrong character");
     } else {
       SkipPast("?>", "this processing instruction is not closed");
@@ -205,7 +252,7 @@ class Scanner {
 
   // A document type is skipped whole, nested declarations included: nothing of it is ever used.
   void Doctype() {
-    const std::size_t begin = at_;
+    const char* begin = at_;
     if (rootSeen_ || doctypeSeen_) {
       Fail("a document type stands elsewhere than before the root element");
       return;
@@ -213,22 +260,21 @@ class Scanner {
     doctypeSeen_ = true;
     constexpr const char* kOpen = "the document type is not closed";
     int depth = 0;
-    while (!AtEnd()) {
-      if (At('"') || At('\'')) {
-        const std::string_view quote = text_.substr(at_, 1);
-        ++at_;
+    while (at_ != end_) {
+      if (*at_ == '"' || *at_ == '\'') {
+        const std::string_view quote(at_++, 1);
         if (!SkipPast(quote, kOpen)) return;
       } else if (StartsWith("<!--")) {
         at_ += 4;
         if (!SkipPast("-->", kOpen)) return;
       } else if (StartsWith("<?")) {
         if (!SkipPast("?>", kOpen)) return;
-      } else if (AtClass(kControl)) {
+      } else if (Is(*at_, kControl)) {
         Fail(kControlReason);
         return;
       } else {
         if (StartsWith("<!")) ++depth;
-        const bool closed = At('>') && --depth == 0;
+        const bool closed = *at_ == '>' && --depth == 0;
         ++at_;
         if (closed) return;
       }
@@ -237,89 +283,109 @@ class Scanner {
   }
 
   void EndTag() {
-    const std::size_t begin = at_;
+    const char* begin = at_;
     at_ += 2;
-    std::string_view name;
-    if (!Name(name)) return;
-    SkipSpace();
-    if (!Expect('>', "this end tag is not closed")) return;
-    if (open_.empty() || open_.back().name != name) {
+    const std::string_view name = open_.empty() ? std::string_view() : open_.back().name;
+    if (name.empty() || !StartsWith(name) || Is(at_[name.size()], kName)) {
       Fail("this end tag does not match its start tag", begin);
       return;
     }
+    at_ += name.size();
     open_.pop_back();
+    SkipSpace();
+    Expect('>', "this end tag is not closed");
   }
 
   void StartTag() {
-    const std::size_t begin = at_;
+    const char* begin = at_;
     if (open_.empty() && rootSeen_) {
       Fail("there is more than one root element");
       return;
     }
     rootSeen_ = true;
     ++at_;
-    std::string_view name;
-    if (!Name(name) || !Attributes()) return;
-    const bool empty = At('/');
+    if (!Name(name_)) return;
+    const std::string_view name = name_;
+    if (!Attributes()) return;
+    const bool empty = *at_ == '/';
     if (empty) ++at_;
     if (!Expect('>', "this tag holds a wrong character or is not closed")) return;
     if (!empty) open_.push_back({begin, name});
   }
 
   bool Attributes() {
-    attributes_.clear();
-    attributeIndex_.Clear();
-    while (SkipSpace() && !At('/') && !At('>')) {
-      const std::size_t begin = at_;
-      std::string_view name;
-      if (!Name(name)) return false;
+    std::size_t count = 0;
+    while (SkipSpace() && *at_ != '/' && *at_ != '>') {
+      const char* begin = at_;
+      if (count == attributes_.size()) attributes_.emplace_back();
+      if (!Name(attributes_[count])) return false;
       SkipSpace();
       if (!Expect('=', "an attribute has no value")) return false;
       SkipSpace();
       if (!Value()) return false;
-      const std::uint32_t hash = HashText(name);
-      const auto same = [&](int i) { return attributes_[static_cast<std::size_t>(i)] == name; };
-      if (attributeIndex_.Find(hash, same) >= 0) {
-        return Fail("this attribute stands twice", begin);
-      }
-      attributeIndex_.Add(hash, static_cast<int>(attributes_.size()));
-      attributes_.push_back(name);
+      if (!IsNewAttribute(count++)) return Fail("this attribute stands twice", begin);
     }
     return true;
   }
 
-  bool Value() {
-    if (!At('"') && !At('\'')) return Fail("an attribute value has no quotes");
-    const std::size_t begin = at_;
-    const char quote = text_[at_++];
-    while (true) {
-      while (!AtEnd() && !AtClass(kValueStop)) ++at_;
-      if (AtEnd()) return Fail("this attribute value is not closed", begin);
-      if (At('&')) {
-        if (!Reference()) return false;
-      } else if (At('<')) {
-        return Fail("\"<\" stands in an attribute value");
-      } else if (AtClass(kControl)) {
-        return Fail(kControlReason);
-      } else if (text_[at_++] == quote) {
-        return true;
+  // The index only where a walk would cost more: that is where a tag has a great many attributes.
+  bool IsNewAttribute(std::size_t last) {
+    constexpr std::size_t kFew = 8;
+    const std::string_view name = attributes_[last];
+    if (last < kFew) {
+      for (std::size_t i = 0; i < last; ++i) {
+        if (attributes_[i] == name) return false;
+      }
+      return true;
+    }
+    const auto same = [&](int i) { return attributes_[static_cast<std::size_t>(i)] == name; };
+    if (last == kFew) {
+      index_.Clear();
+      for (std::size_t i = 0; i < last; ++i) {
+        index_.Add(HashText(attributes_[i]), static_cast<int>(i));
       }
     }
+    if (index_.Find(HashText(name), same) >= 0) return false;
+    index_.Add(HashText(name), static_cast<int>(last));
+    return true;
   }
 
-  static constexpr const char* kControlReason = "there is a control character";
+  bool Value() {
+    if (*at_ != '"' && *at_ != '\'') return Fail("an attribute value has no quotes");
+    const char* begin = at_;
+    const char quote = *at_++;
+    while (true) {
+      at_ = FirstOf(kValueStop);
+      if (*at_ == quote) break;
+      if (at_ == end_) return Fail("this attribute value is not closed", begin);
+      if (*at_ == '&') {
+        if (!Reference()) return false;
+      } else if (*at_ == '<') {
+        return Fail("\"<\" stands in an attribute value");
+      } else if (Is(*at_, kControl)) {
+        return Fail(kControlReason);
+      } else {
+        ++at_;  // the other kind of quote
+      }
+    }
+    ++at_;
+    return true;
+  }
 
-  std::string_view text_;
-  std::size_t at_ = 0;
-  std::size_t start_ = 0;
-  XMLFault fault_;
+  const char* begin_;
+  const char* at_;
+  const char* end_;
+  const char* start_ = nullptr;  // behind a byte order mark
+  XMLFindings findings_;
   bool rootSeen_ = false;
   bool doctypeSeen_ = false;
-  std::vector<Mark> open_;
-  std::vector<std::string_view> attributes_;
-  HashIndex attributeIndex_;
+  std::vector<OpenElement> open_;
+  std::string_view layout_;                   // the last white space between tags
+  std::string_view name_;                     // of the last element
+  std::vector<std::string_view> attributes_;  // of the present tag, and behind them former ones
+  HashIndex index_;                           // of attributes_, when they are many
 };
 
 }  // namespace
 
-XMLFault FindXMLFault(std::string_view text) { return Scanner(text).Run(); }
+XMLFindings ExamineXML(std::string_view text) { return Scanner(text).Run(); }

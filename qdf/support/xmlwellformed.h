@@ -7,9 +7,14 @@
 #include <cstddef>
 #include <string_view>
 
-struct XMLFault {
-  const char* reason = nullptr;  // null when nothing is wrong
-  std::size_t offset = 0;        // of the byte at which it shows
+struct XMLFindings {
+  const char* fault = nullptr;  // what is wrong, null when nothing is
+  std::size_t offset = 0;       // of the byte at which it shows
+
+  // Whether comments, CDATA sections or instructions stand inside elements, where they may split a
+  // text in pieces.
+  bool splitsText = false;
 };
 
-XMLFault FindXMLFault(std::string_view text);
+// A NUL must stand behind the text.
+XMLFindings ExamineXML(std::string_view text);
