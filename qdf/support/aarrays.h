@@ -10,6 +10,7 @@
 
 #include "qdf/support/astring.h"
 #include "qdf/support/export.h"
+#include "qdf/support/smallvector.h"
 
 class APMQDF_EXPORT AStringArray {
  public:
@@ -55,7 +56,7 @@ class APMQDF_EXPORT APtrArray {
   void SetSize(int size, int growth);
 
  private:
-  std::vector<void*> pointers_;
+  SmallVector<void*, 3> pointers_;  // a colour mode node has three leaves
 };
 
 // The word is 32 bits wide, also where `unsigned long` is wider. No test for duplicates.
@@ -78,9 +79,9 @@ class APMQDF_EXPORT ADWordArray {
   // New elements are 0. The growth only tunes allocation.
   void SetSize(int size, int growth);
 
-  const std::uint32_t* begin() const { return words_.data(); }
-  const std::uint32_t* end() const { return words_.data() + words_.size(); }
+  const std::uint32_t* begin() const { return words_.begin(); }
+  const std::uint32_t* end() const { return words_.end(); }
 
  private:
-  std::vector<std::uint32_t> words_;
+  SmallVector<std::uint32_t, 4> words_;
 };
