@@ -1,0 +1,16 @@
+#pragma once
+
+// Saving a whole file at once: all or nothing.
+
+#include <string_view>
+
+// Makes the bytes the content of the regular file at the path, in place: an existing file keeps its
+// identity, owner and mode, and links are followed to it. A file that doesn't exist is made; its
+// folder must be there.
+//
+// Non-zero on success. Otherwise 0, with the former content whole and, where there was no file,
+// none left behind: no permission, no room (full disk, quota), beyond the process's limit on file
+// sizes (whose signal is never raised), a folder, a pipe or a device at the path, or a link that
+// leads nowhere. Only a disk that fails while it is being written to can leave a mixture. Nothing
+// is thrown or allocated.
+int SaveFileBytes(const char* path, std::string_view bytes);

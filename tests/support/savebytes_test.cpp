@@ -1,0 +1,118 @@
+#include "qdf/support/savebytes.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "tests/children.h"
+#include "tests/files.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Bytes(std::size_t size, char fill) { return std::string(size, fill); }
+
+TEST(SaveFileBytes, replacesInPlaceWhateverTheSizes) {
+  const TempFolder folder;
+  const std::string path = folder.Path("file");
+  for (const std::size_t former : {0, 1, 5000, 100000}) {
+    for (const std::size_t size : {0, 1, 4999, 5000, 300000}) {
+      WriteFile(path, Bytes(former, 'f'));
+      chmod(path.c_str(), 0640);
+      struct stat before {};
+      struct stat after {};
+      stat(path.c_str(), &before);
+      std::string bytes = Bytes(size, 'n');
+      if (size > 0) bytes.front() = '\0';
+      EXPECT_NE(SaveFileBytes(path.c_str(), bytes), 0);
+      EXPECT_EQ(ReadFile(path), bytes) << former << " to " << size;
+      stat(path.c_str(), &after);
+      EXPECT_EQ(after.st_ino, before.st_ino);
+      EXPECT_EQ(after.st_mode, before.st_mode);
+    }
+  }
+}
+
+TEST(SaveFileBytes, makesAFileAndFollowsLinks) {
+  const TempFolder folder;
+  const mode_t former = umask(027);
+  EXPECT_NE(SaveFileBytes(folder.Path("made").c_str(), "new"), 0);
+  umask(former);
+  EXPECT_EQ(fs::status(folder.Path("made")).permissions(), fs::perms(0640));
+  fs::create_symlink("made", folder.Path("link"));
+  EXPECT_NE(SaveFileBytes(folder.Path("link").c_str(), "newer"), 0);
+  EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
+  EXPECT_EQ(ReadFile(folder.Path("made")), "newer");
+}
+
+TEST(SaveFileBytes, refusesWhatIsNoFile) {
+  const TempFolder folder;
+  fs::create_directory(folder.Path("folder"));
+  fs::create_symlink("nowhere", folder.Path("dangling"));
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  for (const char* name : {"folder", "dangling", "pipe", "none/file", ""}) {
+    EXPECT_EQ(SaveFileBytes(folder.Path(name).c_str(), "new"), 0) << name;
+  }
+  EXPECT_EQ(SaveFileBytes("", "new"), 0);
+  EXPECT_EQ(SaveFileBytes("/dev/null", "new"), 0);
+  EXPECT_FALSE(fs::exists(folder.Path("nowhere")));
+  EXPECT_FALSE(fs::exists(folder.Path("none")));
+}
+
+TEST(SaveFileBytes, refusesWithoutPermission) {
+  const TempFolder folder;
+  const std::string path = folder.Write("file", "former");
+  fs::permissions(path, fs::perms(0444));
+  fs::permissions(folder.Path(), fs::perms(0555));
+  EXPECT_EQ(InChild([&] {
+              DropPrivileges();
+              if (SaveFileBytes(path.c_str(), "new") != 0) return 1;
+              return SaveFileBytes(folder.Path("made").c_str(), "new") != 0 ? 2 : 0;
+            }),
+            0);
+  EXPECT_EQ(ReadFile(path), "former");
+  EXPECT_FALSE(fs::exists(folder.Path("made")));
+  fs::permissions(folder.Path(), fs::perms(0755));
+}
+
+// The limit holds for what is overwritten as well, so a save that shrinks a file meets it too.
+TEST(SaveFileBytes, keepsTheFormerFileBeyondTheSizeLimit) {
+  const TempFolder folder;
+  const std::string small = folder.Write("small", Bytes(10, 'f'));
+  const std::string large = folder.Write("large", Bytes(90000, 'f'));
+  EXPECT_EQ(InChild([&] {
+              LimitFileSizes(50000);
+              for (const std::string& path : {small, large, folder.Path("made")}) {
+                if (SaveFileBytes(path.c_str(), Bytes(50001, 'n')) != 0) return 1;
+              }
+              return SaveFileBytes(folder.Path("fits").c_str(), Bytes(50000, 'n')) != 0 ? 0 : 2;
+            }),
+            0);
+  EXPECT_EQ(ReadFile(small), Bytes(10, 'f'));
+  EXPECT_EQ(ReadFile(large), Bytes(90000, 'f'));
+  EXPECT_FALSE(fs::exists(folder.Path("made")));
+  EXPECT_EQ(ReadFile(folder.Path("fits")), Bytes(50000, 'n'));
+}
+
+TEST(SaveFileBytes, keepsTheFormerFileOnAFullDisk) {
+  const TempFolder folder;
+  const int result = InChild([&] {
+    if (!MountSmallDisk(folder.Path().c_str())) return 77;
+    const std::string former = Bytes(20000, 'f');
+    const std::string path = folder.Write("file", former);
+    if (SaveFileBytes(path.c_str(), Bytes(kSmallDisk + 1, 'n')) != 0) return 1;
+    if (ReadFile(path) != former) return 2;
+    if (SaveFileBytes(folder.Path("made").c_str(), Bytes(kSmallDisk, 'n')) != 0) return 3;
+    if (fs::exists(folder.Path("made"))) return 4;
+    // What was taken by the failures is free again.
+    return SaveFileBytes(path.c_str(), Bytes(kSmallDisk, 'n')) != 0 ? 0 : 5;
+  });
+  if (result == 77) GTEST_SKIP() << "this machine lets no test mount a small disk";
+  EXPECT_EQ(result, 0);
+}
+
+}  // namespace
