@@ -16,11 +16,11 @@ namespace {
 
 std::string Bytes(std::size_t size, char fill) { return std::string(size, fill); }
 
-TEST(SaveFileBytes, replacesInPlaceWhateverTheSizes) {
+TEST(SaveFileBytes, ReplacesInPlaceWhateverTheSizes) {
   const TempFolder folder;
   const std::string path = folder.Path("file");
-  for (const std::size_t former : {0, 1, 5000, 100000}) {
-    for (const std::size_t size : {0, 1, 4999, 5000, 300000}) {
+  for (const std::size_t former : {0UL, 1UL, 5000UL, 100000UL}) {
+    for (const std::size_t size : {0UL, 1UL, 4999UL, 5000UL, 300000UL}) {
       WriteFile(path, Bytes(former, 'f'));
       chmod(path.c_str(), 0640);
       struct stat before {};
@@ -37,7 +37,7 @@ TEST(SaveFileBytes, replacesInPlaceWhateverTheSizes) {
   }
 }
 
-TEST(SaveFileBytes, makesAFileAndFollowsLinks) {
+TEST(SaveFileBytes, MakesAFileAndFollowsLinks) {
   const TempFolder folder;
   const mode_t former = umask(027);
   EXPECT_NE(SaveFileBytes(folder.Path("made").c_str(), "new"), 0);
@@ -49,7 +49,7 @@ TEST(SaveFileBytes, makesAFileAndFollowsLinks) {
   EXPECT_EQ(ReadFile(folder.Path("made")), "newer");
 }
 
-TEST(SaveFileBytes, refusesWhatIsNoFile) {
+TEST(SaveFileBytes, RefusesWhatIsNoFile) {
   const TempFolder folder;
   fs::create_directory(folder.Path("folder"));
   fs::create_symlink("nowhere", folder.Path("dangling"));
@@ -63,7 +63,7 @@ TEST(SaveFileBytes, refusesWhatIsNoFile) {
   EXPECT_FALSE(fs::exists(folder.Path("none")));
 }
 
-TEST(SaveFileBytes, refusesWithoutPermission) {
+TEST(SaveFileBytes, RefusesWithoutPermission) {
   const TempFolder folder;
   const std::string path = folder.Write("file", "former");
   fs::permissions(path, fs::perms(0444));
@@ -80,7 +80,7 @@ TEST(SaveFileBytes, refusesWithoutPermission) {
 }
 
 // The limit holds for what is overwritten as well, so a save that shrinks a file meets it too.
-TEST(SaveFileBytes, keepsTheFormerFileBeyondTheSizeLimit) {
+TEST(SaveFileBytes, KeepsTheFormerFileBeyondTheSizeLimit) {
   const TempFolder folder;
   const std::string small = folder.Write("small", Bytes(10, 'f'));
   const std::string large = folder.Write("large", Bytes(90000, 'f'));
@@ -98,7 +98,7 @@ TEST(SaveFileBytes, keepsTheFormerFileBeyondTheSizeLimit) {
   EXPECT_EQ(ReadFile(folder.Path("fits")), Bytes(50000, 'n'));
 }
 
-TEST(SaveFileBytes, keepsTheFormerFileOnAFullDisk) {
+TEST(SaveFileBytes, KeepsTheFormerFileOnAFullDisk) {
   const TempFolder folder;
   const int result = InChild([&] {
     if (!MountSmallDisk(folder.Path().c_str())) return 77;
