@@ -54,9 +54,10 @@ int APMQDF::GetMarginInfoList(const int& mediaSource, const int& mediaSize,
   const CQDFNode* source = FindChildWithID(MediaSourceTreeRoot, mediaSource);
   const CQDFNode* size = source != nullptr ? FindChildWithID(*source, mediaSize) : nullptr;
   if (size == nullptr || size->Children.GetSize() == 0) return 0;
-  const CQDFNode& margin = *ChildAt(*size, 0);
+  const CQDFNode* margin = ChildAt(*size, 0);
+  if (margin == nullptr) return 0;
   return OrOnNoMemory(0, [&] {
-    return AppendAllowed(MarginInfoList, margin.IDs, margin.Default, margins, defaultPosition);
+    return AppendAllowed(MarginInfoList, margin->IDs, margin->Default, margins, defaultPosition);
   });
 }
 

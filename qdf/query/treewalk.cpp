@@ -4,16 +4,17 @@
 
 namespace {
 
-bool Holds(CQDFNode& node, int id) {
-  return IsIDInArray(static_cast<std::uint32_t>(id), node) != 0;
+// A host that changes the media source tree may leave null pointers in it: they hold nothing.
+bool Holds(CQDFNode* node, int id) {
+  return node != nullptr && IsIDInArray(static_cast<std::uint32_t>(id), *node) != 0;
 }
 
 const CQDFNode* FindFrom(const CQDFNode& node, const int* id, const int* end) {
   if (id == end) return &node;
   for (int i = 0; i < node.Children.GetSize(); ++i) {
-    CQDFNode& child = *ChildAt(node, i);
+    CQDFNode* child = ChildAt(node, i);
     if (!Holds(child, *id)) continue;
-    const CQDFNode* found = FindFrom(child, id + 1, end);
+    const CQDFNode* found = FindFrom(*child, id + 1, end);
     if (found != nullptr) return found;
   }
   return nullptr;
@@ -24,7 +25,7 @@ const CQDFNode* FindFrom(const CQDFNode& node, const int* id, const int* end) {
 CQDFNode* FindChildWithID(const CQDFNode& parent, int id) {
   for (int i = 0; i < parent.Children.GetSize(); ++i) {
     CQDFNode* child = ChildAt(parent, i);
-    if (Holds(*child, id)) return child;
+    if (Holds(child, id)) return child;
   }
   return nullptr;
 }
@@ -36,6 +37,8 @@ const CQDFNode* FindPath(const CQDFNode& root, std::initializer_list<int> ids) {
 ADWordArray MergedChildIDs(const CQDFNode& node) {
   ADWordArray merged;
   UniqueIDs unique(merged);
-  for (int i = 0; i < node.Children.GetSize(); ++i) unique.AddAll(ChildAt(node, i)->IDs);
+  for (int i = 0; i < node.Children.GetSize(); ++i) {
+    if (const CQDFNode* child = ChildAt(node, i)) unique.AddAll(child->IDs);
+  }
   return merged;
 }
