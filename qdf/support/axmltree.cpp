@@ -1,11 +1,14 @@
 #include "qdf/support/axmltree.h"
 
 #include <algorithm>
+#include <new>
 #include <pugixml.hpp>
+#include <string>
 #include <string_view>
 
 #include "qdf/support/filebytes.h"
 #include "qdf/support/nothrow.h"
+#include "qdf/support/savebytes.h"
 #include "qdf/support/text.h"
 #include "qdf/support/xmlwellformed.h"
 
@@ -59,10 +62,32 @@ pugi::xml_node ElementFrom(pugi::xml_node node) {
 // A null name is an empty one: the parser's own search compares without looking for null.
 const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
 
+// Takes what the printer emits. In a text that leaves a carriage return as it is, which a parser
+// would take for a line end; nowhere else does one come through.
+class SavedText : public pugi::xml_writer {
+ public:
+  void write(const void* data, std::size_t size) override {
+    std::string_view rest(static_cast<const char*>(data), size);
+    while (true) {
+      const std::size_t at = rest.find('\r');
+      text_.append(rest.substr(0, at));
+      if (at == std::string_view::npos) return;
+      text_.append("&#13;");
+      rest.remove_prefix(at + 1);
+    }
+  }
+
+  std::string_view Text() const { return text_; }
+
+ private:
+  std::string text_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+};
+
 }  // namespace
 
 AXMLTree::AXMLTree(const AString& rootName) : document_(std::make_unique<Document>()) {
-  document_->xml.append_child(static_cast<const char*>(rootName));
+  pugi::xml_node root = document_->xml.append_child(pugi::node_element);
+  if (!root.set_name(rootName)) throw std::bad_alloc();
 }
 
 AXMLTree::~AXMLTree() = default;
@@ -94,9 +119,20 @@ int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
 
 const AXMLFault& AXMLTree::loadFault() const { return document_->fault; }
 
+int AXMLTree::saveToFile(AFilePath& path) const {
+  if (!whole_ || !document_->xml.document_element()) return 0;
+  return OrOnNoMemory(0, [&] {
+    SavedText saved;
+    document_->xml.save(saved, "  ", pugi::format_indent | pugi::format_no_declaration,
+                        pugi::encoding_utf8);
+    return SaveFileBytes(path, saved.Text());
+  });
+}
+
 void AXMLTree::removeAll(int) {
   document_->xml.reset();
   cursors_.clear();
+  whole_ = true;
 }
 
 int AXMLTree::getRootNode(AXMLTreeNode& root) const {
@@ -188,15 +224,16 @@ int AXMLTree::addItem(AXMLTreeNode& item, const char* name, const char* value) {
 int AXMLTree::addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name,
                        const char* value, int position) {
   pugi::xml_node element(parent.element_);
+  if (!element) return 0;
   AXMLTreeNode follower;
   const bool inserted = position >= 0 && getChild(position, parent, follower) != 0;
   cursors_.clear();
-  pugi::xml_node added = inserted ? element.insert_child_before(OrEmpty(name),  //
-                                                                pugi::xml_node(follower.element_))
-                                  : element.append_child(OrEmpty(name));
-  if (!added) return 0;
+  pugi::xml_node added =
+      inserted ? element.insert_child_before(pugi::node_element, pugi::xml_node(follower.element_))
+               : element.append_child(pugi::node_element);
   const bool hasText = *OrEmpty(value) != '\0';
-  if (hasText && !added.append_child(pugi::node_pcdata).set_value(value)) {
+  if (!stored(added.set_name(OrEmpty(name)) &&
+              (!hasText || added.append_child(pugi::node_pcdata).set_value(value)))) {
     element.remove_child(added);
     return 0;
   }
@@ -206,7 +243,14 @@ int AXMLTree::addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* nam
 
 void AXMLTree::setAttribute(AXMLTreeNode node, const char* name, const char* value) {
   pugi::xml_node element(node.element_);
+  if (!element) return;
   pugi::xml_attribute attribute = element.attribute(OrEmpty(name));
   if (!attribute) attribute = element.append_attribute(OrEmpty(name));
-  attribute.set_value(OrEmpty(value));
+  // Without memory for its name an attribute is there, but nameless.
+  stored(*attribute.name() == *OrEmpty(name) && attribute.set_value(OrEmpty(value)));
+}
+
+bool AXMLTree::stored(bool success) {
+  whole_ = whole_ && success;
+  return success;
 }

@@ -55,6 +55,17 @@ class APMQDF_EXPORT AXMLTree {
   // What was wrong at the last load that gave 0.
   const AXMLFault& loadFault() const;
 
+  // Writes the document to the file, as SaveFileBytes does: the whole text is made first, so that a
+  // failure leaves the former file as it was. Lines are indented by two blanks for each level, and
+  // an element with text stands on one line. Bytes pass through as they are; a control character
+  // becomes a numeric reference where a parser would refuse or change it. So every text and
+  // attribute reads back byte for byte.
+  //
+  // Non-zero on success. 0 when the file can't be written, memory runs out or the document isn't
+  // whole: it has no root, or an element or attribute is missing since memory ran out when it was
+  // to be added.
+  int saveToFile(AFilePath& path) const;
+
   // Drops all nodes, the root included. The argument has no meaning.
   void removeAll(int);
 
@@ -87,7 +98,8 @@ class APMQDF_EXPORT AXMLTree {
 
   // Each of these adds an element with that name and, when it isn't empty, that text, and gives
   // non-zero and its handle: behind the root's children, or among the parent's children at that
-  // position, where -1 means behind all.
+  // position, where -1 means behind all. 0, and nothing added, when the parent's handle refers to
+  // nothing or memory runs out.
   int addItem(AXMLTreeNode& item, const char* name, const char* value);
   int addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name, const char* value,
                int position);
@@ -106,6 +118,10 @@ class APMQDF_EXPORT AXMLTree {
   };
   Cursor& cursorAt(int depth) const;
 
+  // Of an addition: whether there was memory for it. Notes when there wasn't.
+  bool stored(bool success);
+
   std::unique_ptr<Document> document_;
   mutable std::vector<Cursor> cursors_;
+  bool whole_ = true;
 };
