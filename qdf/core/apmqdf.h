@@ -142,8 +142,16 @@ class APMQDF_EXPORT APMQDF {
   // Never null, valid while the document lives, and owned by it.
   virtual CQDFNode* GetMediaSourceTreeRoot();
 
-  // Writes the document to the file. There is no result: a host that wants to know loads what was
-  // written. A file whose new content can't be stored keeps the former one.
+  // Writes the document, whole or not, to the file, in place. There is no result: a host that wants
+  // to know loads what was written. A file whose new content can't be stored, or can't be made for
+  // lack of memory, keeps the former one.
+  //
+  // The written form holds less than a document may: one ink node, the first, with all that is
+  // under it; no default ink; a default dither where it isn't read, dither names in capitals and no
+  // RIP resolutions; no list of dithers beside "ALL"; of a colorant only names, depth and spot
+  // colour; no default margins, and of margin nodes only what GetMarginInfoList answers; six
+  // decimals of a number and none of a resolution. Media are written with their UnlocalizedName,
+  // all else with the current DisplayName.
   void PMWriteQDF(AFilePath& path);
 
   // Appends a deep copy of what is in and under the source to the target, and sets the target's
