@@ -66,6 +66,9 @@ const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
 // would take for a line end; nowhere else does one come through.
 class SavedText : public pugi::xml_writer {
  public:
+  // Room for almost any document: what of it isn't used costs nothing, but growing costs copies.
+  SavedText() { text_.reserve(std::size_t{2} << 20); }
+
   void write(const void* data, std::size_t size) override {
     std::string_view rest(static_cast<const char*>(data), size);
     while (true) {
