@@ -1,0 +1,85 @@
+#include "qdf/support/afile.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/files.h"
+
+namespace {
+
+using std::string_literals::operator""s;
+
+int Open(AStdioFile& file, const std::string& path, unsigned int mode) {
+  AFilePath filePath(path.c_str());
+  AFileException exception;
+  const int result = file.Open(filePath, mode, &exception, AFile::kAnyFile);
+  EXPECT_EQ(result != 0, exception.Reason == nullptr);
+  return result;
+}
+
+// "1:ab\n|2:c": each piece behind the number of its line.
+std::string Pieces(const std::string& path, unsigned int capacity) {
+  AStdioFile file;
+  EXPECT_EQ(Open(file, path, AFile::kRead), 1);
+  std::vector<char> buffer(capacity);  // of this size exactly: a sanitizer sees one byte too many
+  std::string pieces;
+  while (file.ReadString(buffer.data(), capacity) != nullptr) {
+    pieces.append(pieces.empty() ? "" : "|").append(std::to_string(file.GetLineNumber()));
+    pieces.append(":").append(buffer.data());
+  }
+  return pieces;
+}
+
+TEST(StdioFile, ReadsLinesInPiecesThatFitTheBuffer) {
+  const TempFolder folder;
+  const struct {
+    std::string bytes;
+    unsigned int capacity;
+    std::string pieces;
+  } rows[] = {
+      {"", 9, ""},
+      {"a\n\nb", 9, "1:a\n|2:\n|3:b"},
+      {"abc", 1, ""},
+      {"abcdefg\nh", 4, "1:abc|1:def|1:g\n|2:h"},
+      {"abc", 0, ""},
+      {"abc\ndef", 4, "1:abc|1:\n|2:def"},
+      {"a\r\n", 9, "1:a\r\n"},
+      {"ab\0cd\ne"s, 9, "1:ab|2:e"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(Pieces(folder.Write("file", row.bytes), row.capacity), row.pieces) << row.bytes;
+  }
+}
+
+TEST(StdioFile, RefusesWhatIsNoRegularFile) {
+  const TempFolder folder;
+  const std::string pipe = folder.Path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  for (const std::string& path : {folder.Path(), pipe, folder.Path("missing/file")}) {
+    for (const unsigned int mode : {1U, 0x102U, 0U}) {
+      AStdioFile file;
+      EXPECT_EQ(Open(file, path, mode), 0) << path << mode;
+      char buffer[8];
+      EXPECT_EQ(file.ReadString(buffer, sizeof buffer), nullptr);
+      file.Write("lost", 4);
+    }
+  }
+}
+
+TEST(StdioFile, EmptiesAFileWhenItIsOpenedForWriting) {
+  const TempFolder folder;
+  const std::string path = folder.Write("file", "former");
+  {
+    AStdioFile file;
+    ASSERT_EQ(Open(file, path, 0x102), 1);
+    EXPECT_EQ(ReadFile(path), "");
+    file.Write("a\nb", 3);
+    file.Write("\0c", 2);
+  }
+  EXPECT_EQ(ReadFile(path), "a\nb\0c"s);
+}
+
+}  // namespace
