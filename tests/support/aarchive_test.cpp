@@ -1,0 +1,172 @@
+#include "qdf/support/aarchive.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+#include <string>
+
+#include "tests/children.h"
+#include "tests/files.h"
+
+namespace {
+
+using std::string_literals::operator""s;
+using Direction = AArchive::Direction;
+
+class Archive : public testing::Test {
+ protected:
+  AArchive Open(Direction direction) { return AArchive(AFilePath(path_.c_str()), direction); }
+  AArchive Reading(const std::string& bytes) {
+    WriteFile(path_, bytes);
+    return Open(Direction::Reading);
+  }
+  void Write(const std::function<void(AArchive&)>& write) {
+    AArchive archive = Open(Direction::Writing);
+    write(archive);
+    EXPECT_EQ(archive.Close(), 1);
+  }
+
+  TempFolder folder_;
+  std::string path_ = folder_.Path("archive");
+};
+
+int Int(AArchive& archive) {
+  int value = -1;
+  archive >> value;
+  return value;
+}
+
+std::string Text(AArchive& archive) {
+  AString text("former");
+  archive >> text;
+  return {text, static_cast<std::size_t>(text.GetLength())};
+}
+
+TEST_F(Archive, ReadsBackWhatWasWritten) {
+  AString bytes;
+  std::copy_n("a\0\xFF\n", 4, bytes.GetBuffer(4));
+  Write([&](AArchive& a) {
+    a << std::numeric_limits<int>::min() << 0x80000001U << 0x100000003UL << -1.0F << 2.5 << bytes;
+  });
+  EXPECT_EQ(ReadFile(path_).substr(0, 20), "\0\0\0\x80\x01\0\0\x80\x03\0\0\0\0\0\x80\xBF\0\0\0\0"s);
+  AArchive archive = Open(Direction::Reading);
+  unsigned int u = 0;
+  unsigned long ul = 0;
+  float f = 0;
+  double d = 0;
+  EXPECT_EQ(Int(archive), std::numeric_limits<int>::min());
+  archive >> u >> ul >> f >> d;
+  EXPECT_EQ(u, 0x80000001U);
+  EXPECT_EQ(ul, 3UL);
+  EXPECT_EQ(f, -1.0F);
+  EXPECT_EQ(d, 2.5);
+  EXPECT_EQ(Text(archive), "a\0\xFF\n"s);
+  EXPECT_NE(archive.AtEnd(), 0);
+  EXPECT_EQ(archive.IsDamaged(), 0);
+}
+
+TEST_F(Archive, SkipsUnknownTagsAndAnswersForAbsentOnes) {
+  Write([](AArchive& a) {
+    a.TagStart().Tag(1) << 11;
+    a.Tag(3).TagStart().Tag(2) << 32;
+    a.Tag(9) << 39;
+    a.TagEnd().Tag(5) << 51 << 52 << 53;
+    a.Tag(255) << AString("last");
+    a.TagEnd() << 99;
+  });
+  AArchive archive = Open(Direction::Reading);
+  archive.TagStart();
+  EXPECT_EQ(archive.GetTag(0), 0);
+  EXPECT_EQ(Int(archive), 0);
+  archive.Tag(2).TagStart();  // a group that isn't there holds nothing
+  EXPECT_EQ(archive.GetTag(2), 0);
+  archive.TagEnd();
+  EXPECT_NE(archive.GetTag(3), 0);
+  archive.TagStart();
+  EXPECT_EQ(Int(archive.Tag(2)), 32);
+  archive.TagEnd();
+  EXPECT_EQ(Text(archive.Tag(4)), "");
+  EXPECT_EQ(Int(archive.Tag(5)), 51);
+  EXPECT_EQ(Int(archive), 52);
+  EXPECT_EQ(Text(archive.Tag(255)), "last");
+  archive.TagEnd().TagEnd();
+  EXPECT_EQ(archive.AtEnd(), 0);
+  EXPECT_EQ(Int(archive), 99);
+  EXPECT_NE(archive.AtEnd(), 0);
+  EXPECT_EQ(archive.IsDamaged(), 0);
+}
+
+TEST_F(Archive, ReadsZerosWhereLengthsLeadBeyondTheEnd) {
+  const std::string huge = "\xFF\xFF\xFF\xFF"s;
+  const std::string rows[] = {
+      huge,                                               // a group
+      "\x09\0\0\0\x01\x04\0\0"s,                          // a group that is cut
+      "\x09\0\0\0\x01"s + huge + "\x05\0\0",              // a tag
+      "\x0D\0\0\0\x01\x08\0\0\0"s + huge + "abcd",        // a text
+      "\x0C\0\0\0\x01\x07\0\0\0\x04\0\0\0abc"s + "defg",  // a text beyond its tag
+      "\x07\0\0\0\x01\x02\0\0\0\x05\x06"s + "\x07\x08",   // a number beyond its tag
+      "\x01\0"s,                                          // no room for a length
+  };
+  for (const std::string& bytes : rows) {
+    AArchive archive = Reading(bytes);
+    archive.TagStart();
+    EXPECT_EQ(Text(archive.Tag(1)), "");
+    EXPECT_EQ(Int(archive), 0);
+    archive.TagEnd();
+    EXPECT_NE(archive.IsDamaged(), 0);
+  }
+}
+
+TEST_F(Archive, NestsGroupsDeeply) {
+  constexpr int kDepth = 100000;
+  Write([](AArchive& a) {
+    for (int i = 0; i < kDepth; ++i) a.TagStart().Tag(0);
+    a << 7;
+    for (int i = 0; i < kDepth; ++i) a.TagEnd();
+    a << 8;
+  });
+  AArchive archive = Open(Direction::Reading);
+  for (int i = 0; i < kDepth; ++i) archive.TagStart().Tag(0);
+  EXPECT_EQ(Int(archive), 7);
+  for (int i = 0; i < kDepth; ++i) archive.TagEnd();
+  EXPECT_EQ(Int(archive), 8);
+}
+
+TEST_F(Archive, ThrowsWhenItIsOpenForReading) {
+  AArchive archive = Reading("\x01\0\0\0"s);
+  const std::function<void()> writes[] = {[&] { archive << 1; }, [&] { archive << "x"; }};
+  for (const auto& write : writes) {
+    try {
+      write();
+      ADD_FAILURE() << "no exception";
+    } catch (const AArchiveException& exception) {
+      EXPECT_EQ(exception.Cause, 2);
+      EXPECT_EQ(exception.FileName, path_.c_str());
+    }
+  }
+  EXPECT_EQ(Int(archive), 1);
+}
+
+TEST_F(Archive, TellsWhenNothingCouldBeReadOrSaved) {
+  AArchive missing = Open(Direction::Reading);
+  EXPECT_EQ(missing.IsOpen(), 0);
+  EXPECT_NE(missing.AtEnd(), 0);
+  EXPECT_EQ(Int(missing.TagStart().Tag(1)), 0);
+  EXPECT_EQ(missing.Close(), 0);
+
+  WriteFile(path_, "former");
+  AArchive withoutTag = Open(Direction::Writing);
+  withoutTag.TagStart() << 2;
+  EXPECT_EQ(withoutTag.Close(), 0);
+  const int closed = InChild([&] {
+    LimitFileSizes(100);
+    AArchive archive = Open(Direction::Writing);
+    for (int i = 0; i < 100; ++i) archive << i;
+    return archive.Close();
+  });
+  EXPECT_EQ(closed, 0);
+  EXPECT_EQ(ReadFile(path_), "former");
+}
+
+}  // namespace
