@@ -1,0 +1,113 @@
+#include "qdf/localise/translationtable.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/documents.h"
+#include "tests/files.h"
+
+namespace {
+
+TEST(TranslationTable, DecodesRunsOfHexadecimalDigits) {
+  const struct {
+    const char* text;
+    const char* decoded;
+  } rows[] = {
+      {"", ""},
+      {"plain > text", "plain > text"},
+      {"<4142>", "AB"},
+      {"<41 42>", "A B"},
+      {"< 41  42 >", " A  B "},
+      {"x<41>y<42>z", "xAyBz"},
+      {"<>x", "x"},
+      {"<c3A9>", "\xC3\xA9"},
+      {"<4G>x", "@x"},     // no digit counts as 0
+      {"<<1>x", "\x01x"},  // also a "<"
+      {"<414>xy", "A@"},   // nor does a ">" where a digit is due, and the run goes on
+      {"<4 1>", "@\x10"},  // nor a blank
+      {"x<", "x"},
+      {"<41", "A"},
+      {"<414", "A"},
+      {"<4", ""},
+      {"<41 ", "A "},
+      {"A<004142>B", "A"},
+  };
+  for (const auto& row : rows) {
+    AString text(row.text);
+    DecodeHexRuns(text);
+    EXPECT_EQ(text, row.decoded) << row.text;
+  }
+}
+
+// "key|translation", or "-" for a line that doesn't count.
+std::string Read(const char* line) {
+  TranslationPair pair{"former", "pair"};
+  if (ReadTableLine(line, pair) == nullptr) {
+    return (pair.Key + "|" + pair.Translation).operator const char*();
+  }
+  EXPECT_EQ(pair.Key, "former");
+  return "-";
+}
+
+TEST(TranslationTable, ReadsALine) {
+  const struct {
+    const char* line;
+    const char* pair;
+  } rows[] = {
+      {"*Plain Paper=/Papier ordinaire:\n", "Plain Paper|Papier ordinaire"},
+      {" Plain Paper\t= Papier ordinaire \r\n", "Plain Paper|Papier ordinaire"},
+      {"ab=c=d", "ab|c=d"},
+      {"**=//::", "*|/:"},
+      {"* a=/ b :", " a| b "},  // trimmed before the marks go, not behind
+      {"*a=/b", "a|b"},
+      {"ab=b:", "ab|b"},
+      {"ab=/<4142>:", "ab|AB"},
+      {"ab=<41:>", "ab|A"},
+      {"", "-"},
+      {"\n", "-"},
+      {"no separator", "-"},
+      {"=value", "-"},
+      {" =value", "-"},
+      {"a=value", "-"},
+      {"*=value", "-"},
+      {"ab=", "-"},
+      {"ab=c", "-"},
+      {"ab=/", "-"},
+      {"ab= / ", "-"},
+      {"ab=/:", "-"},
+      {"ab=<4", "-"},
+      {"ab=<0041>", "-"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Read(row.line), row.pair) << row.line;
+}
+
+TEST(TranslationTable, TellsWhichLinesDoNotCountAndWhy) {
+  const std::string longKey(1023, 'k');
+  const TempFolder folder;
+  const std::string path =
+      folder.Write("table.txt", "aa=bb\nnone\n=cc\nd=dd\nee=e\nff=/:\n" + longKey + "=x\nzz=last");
+  std::vector<std::string> lines;
+  AFilePath filePath(path.c_str());
+  const int read = ReadTranslationTable(filePath, [&](const TableLine& line) {
+    std::string text = std::to_string(line.Number) + " ";
+    text.append(line.Fault != nullptr ? AString(line.Fault) : line.Pair.Translation);
+    lines.push_back(text);
+  });
+  EXPECT_EQ(read, 1);
+  EXPECT_EQ(Join(lines, "\n"),
+            "1 bb\n"
+            "2 it has no \"=\"\n"
+            "3 nothing stands before the \"=\"\n"
+            "4 the key has fewer than two characters\n"
+            "5 the value has fewer than two characters\n"
+            "6 nothing is left of the value\n"
+            "7 it has no \"=\"\n"
+            "7 nothing stands before the \"=\"\n"
+            "8 last");
+  AFilePath missing(folder.Path("missing").c_str());
+  EXPECT_EQ(ReadTranslationTable(missing, [](const TableLine&) { FAIL(); }), 0);
+}
+
+}  // namespace
