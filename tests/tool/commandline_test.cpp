@@ -1,0 +1,102 @@
+// What the program makes of its words, whatever the command.
+
+#include <gtest/gtest.h>
+
+#include "tests/files.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+struct Refusal {
+  Words words;
+  const char* line;
+};
+
+TEST(CommandLine, RefusesWrongUsageInOneLine) {
+  const Refusal refusals[] = {
+      {{}, "a command is missing; try 'qdf --help'"},
+      {{"sow", "plot36.qdf"}, "there is no command \"sow\"; choose from show"},
+      {{"--json"}, "there is no option \"--json\"; choose from --help, --version, -C"},
+      {{"-C"}, "-C: 1 required DIR missing; try 'qdf --help'"},
+      {{"-C", "nowhere", "show", "x"}, "can't work in \"nowhere\": No such file or directory"},
+      {{"show"}, "DOC is required; try 'qdf show --help'"},
+      {{"show", ""}, "the name of the document is empty"},
+      {{"show", "plot36.qdf", "more"},
+       "nothing is known to do with \"more\"; try 'qdf show --help'"},
+      {{"show", "plot36.qdf", "--lst=inks"},
+       "there is no option \"--lst=inks\"; choose from --list, --json, --help"},
+      {{"show", "plot36.qdf", "--list"}, "--list: 1 required NAME missing; try 'qdf show --help'"},
+      {{"show", "plot36.qdf", "--list", "medium"},
+       "there is no list \"medium\"; choose from media, media-sizes, media-sources, print-modes, "
+       "color-modes, margins, inks, resolutions"},
+      {{"\x1b[1m\n"}, "there is no command \"\\x1B[1m\\x0A\"; choose from show"},
+  };
+  for (const Refusal& refusal : refusals) {
+    EXPECT_EQ(RunTool(refusal.words), (Outcome{2, "", "qdf: " + std::string(refusal.line) + "\n"}));
+  }
+}
+
+// The lines behind "Example:" of a help page.
+std::vector<std::string> Examples(const std::string& help) {
+  std::vector<std::string> examples;
+  std::istringstream lines(help.substr(std::min(help.find("Example:"), help.size())));
+  std::string line;
+  while (std::getline(lines, line)) {
+    if (line.starts_with("  qdf ")) examples.push_back(line.substr(6));
+  }
+  return examples;
+}
+
+TEST(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
+  const Outcome overview = RunTool({"--help"});
+  EXPECT_EQ(overview.code, 0);
+  for (const char* command : {"show"}) {
+    EXPECT_NE(overview.out.find(std::string("\n  ") + command + ' '), std::string::npos);
+    const Outcome help = RunTool({command, "--help"});
+    EXPECT_EQ(help.code, 0);
+    EXPECT_NE(help.out.find(std::string("Usage: qdf ") + command + " ["), std::string::npos);
+    const std::vector<std::string> examples = Examples(help.out);
+    EXPECT_FALSE(examples.empty()) << help.out;
+    for (const std::string& example : examples) {
+      const Outcome outcome = RunTool(SplitWords(example));
+      EXPECT_EQ(outcome.code, 0) << example << '\n' << outcome;
+      EXPECT_NE(outcome.out, "") << example;
+    }
+  }
+}
+
+TEST(CommandLine, TellsItsVersion) {
+  const Outcome version = RunTool({"--version"});
+  EXPECT_EQ(version.code, 0);
+  EXPECT_TRUE(version.out.starts_with("qdf 0.")) << version;
+}
+
+std::string FirstLine(const Outcome& outcome) {
+  return outcome.out.substr(0, outcome.out.find('\n'));
+}
+
+TEST(CommandLine, FindsDocumentsByPathAndByName) {
+  const std::string dyesub = ReadFile(QDF_EXAMPLES "/OutputDrivers/dyesub6.qdf");
+  const TempFolder folder;
+  folder.Write("OutputDrivers/both.qdf", dyesub);
+  folder.Write("both.qdf", "no document");
+  folder.Write("tree", dyesub);
+  folder.Write("--json", dyesub);
+  folder.Write("sub/OutputDrivers/deep.qdf", dyesub);
+  const Refusal found[] = {
+      {{"show", "both.qdf"}, "Document:           OutputDrivers/both.qdf"},
+      {{"show", "tree"}, "Document:           tree"},
+      {{"show", "--", "--json"}, "Document:           --json"},
+      {{"show", "./tree"}, "Document:           ./tree"},
+      {{"-C", "sub", "show", "deep.qdf"}, "Document:           OutputDrivers/deep.qdf"},
+      {{"-C", "sub", "-C", "..", "show", "tree"}, "Document:           tree"},
+  };
+  for (const Refusal& each : found) {
+    const Outcome outcome = RunTool(each.words, {folder.Path()});
+    EXPECT_EQ(FirstLine(outcome), each.line) << outcome;
+  }
+  EXPECT_EQ(RunTool({"show", "./both.qdf"}, {folder.Path()}).code, 1);
+  EXPECT_EQ(RunTool({"show", "./deep.qdf"}, {folder.Path()}).code, 1);
+}
+
+}  // namespace

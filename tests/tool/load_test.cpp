@@ -1,0 +1,77 @@
+// Why a document can't be loaded, in one line.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "tests/files.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+constexpr const char* kColorMode = "<C><ColorantList><X/></ColorantList></C>";
+
+std::string Definition(const std::string& media, const std::string& colorModes) {
+  return "<Q><Definition><InkList><I/></InkList>" + media +
+         "<PrintModeList><P/></PrintModeList><ResolutionList><R/></ResolutionList>"
+         "<ColorModeList>" +
+         colorModes + "</ColorModeList></Definition></Q>";
+}
+
+TEST(Load, SaysWhatADocumentLacks) {
+  const std::string media = "<MediaList><M/></MediaList>";
+  const struct {
+    std::string text;
+    const char* reason;
+  } refusals[] = {
+      {"", ":1:1: there is no root element"},
+      {"<Q>\n  <a>\n</Q>", ":3:1: this end tag does not match its start tag"},
+      {"<Q a='1' a='2'/>", ":1:10: this attribute stands twice"},
+      {"<Q/>", ": the root element has no Definition"},
+      {"<Q><X><Definition/></X></Q>", ": the root element has no Definition"},
+      {"<Q><Definition/></Q>",
+       ": Definition has no InkList; Definition has no MediaList; Definition has no PrintModeList; "
+       "Definition has no ResolutionList; Definition has no ColorModeList"},
+      {Definition("", kColorMode), ": Definition has no MediaList"},
+      {Definition("<MediaList> - </MediaList>", kColorMode), ": MediaList is empty"},
+      {Definition(media, ""), ": ColorModeList is empty"},
+      {Definition(media, "<C/><C><ColorantList/></C>"),
+       ": no colour mode of ColorModeList has a colorant"},
+  };
+  const TempFolder folder;
+  for (const auto& refusal : refusals) {
+    folder.Write("OutputDrivers/d.qdf", refusal.text);
+    const std::string line = std::string("qdf: OutputDrivers/d.qdf") + refusal.reason + '\n';
+    EXPECT_EQ(RunTool({"show", "d.qdf"}, {folder.Path()}), (Outcome{1, "", line}));
+  }
+  folder.Write("OutputDrivers/d.qdf", Definition(media, kColorMode));
+  EXPECT_EQ(RunTool({"show", "d.qdf"}, {folder.Path()}).code, 0);
+}
+
+TEST(Load, SaysWhyAFileCannotBeRead) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(symlink("loop", folder.Path("loop").c_str()), 0);
+  ASSERT_EQ(chmod(folder.Write("secret", "<Q/>").c_str(), 0), 0);
+  const struct {
+    const char* name;
+    const char* line;
+  } refusals[] = {
+      {"nothing.qdf", "OutputDrivers/nothing.qdf: no such file"},
+      {"./nothing.qdf", "./nothing.qdf: no such file"},
+      {"secret/file", "secret/file: no such file"},
+      {"./", "./: it is a folder"},
+      {"pipe", "pipe: it is no regular file"},
+      {"./loop", "./loop: the links lead nowhere"},
+  };
+  // The same for every command, since all load in one way.
+  for (const char* command : {"show"}) {
+    for (const auto& refusal : refusals) {
+      const std::string line = std::string("qdf: ") + refusal.line + '\n';
+      EXPECT_EQ(RunTool({command, refusal.name}, {folder.Path()}), (Outcome{1, "", line}));
+    }
+  }
+  EXPECT_EQ(RunTool({"show", "./secret"}, {.folder = folder.Path(), .asNobody = true}),
+            (Outcome{1, "", "qdf: ./secret: no permission to read it\n"}));
+}
+
+}  // namespace

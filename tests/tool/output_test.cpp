@@ -1,0 +1,87 @@
+// Where the output goes, and what it does to a terminal.
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include "tests/files.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+const Words kInks = {"show", "plot36.qdf", "--list", "inks"};
+
+std::string OnTerminal(const Words& words, const Words& environment) {
+  const int master = posix_openpt(O_RDWR | O_NOCTTY);
+  if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) return "no terminal";
+  const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
+  EXPECT_EQ(RunTool(words, {QDF_EXAMPLES, environment, terminal}).code, 0);
+  char bytes[1024];
+  const ssize_t got = read(master, bytes, sizeof bytes);
+  close(terminal);
+  close(master);
+  return {bytes, got > 0 ? static_cast<std::size_t>(got) : 0};
+}
+
+TEST(Output, IsBoldOnATerminalOnly) {
+  const std::string bold =
+      "\x1b[1mInks (1)\x1b[0m\r\n"
+      "  \x1b[1mID  Display name  Internal name\x1b[0m\r\n"
+      "   1  Standard      Standard\r\n";
+  const std::string plain =
+      "Inks (1)\r\n"
+      "  ID  Display name  Internal name\r\n"
+      "   1  Standard      Standard\r\n";
+  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=", "TERM=xterm"}), bold);
+  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=1", "TERM=xterm"}), plain);
+  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=", "TERM=dumb"}), plain);
+  EXPECT_EQ(RunTool(kInks).out.find('\x1b'), std::string::npos);
+}
+
+TEST(Output, SaysWhenItCannotBeWritten) {
+  const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
+  const Outcome noSpace{1, "", "qdf: standard output: No space left on device\n"};
+  EXPECT_EQ(RunTool(kInks, {.out = full}), noSpace);
+  EXPECT_EQ(RunTool({"show", "plot36.qdf", "--json"}, {.out = full}), noSpace);
+  EXPECT_EQ(RunTool({"--help"}, {.out = full}), noSpace);
+  close(full);
+}
+
+TEST(Output, EndsQuietlyWhenNobodyReads) {
+  int ends[2];
+  ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+  close(ends[0]);
+  EXPECT_EQ(RunTool({"show", "plot36.qdf"}, {.out = ends[1]}), (Outcome{0}));
+  close(ends[1]);
+}
+
+// Names that would clear a screen, break a line, turn the direction of writing, are no UTF-8, or
+// are wider or narrower than their bytes.
+constexpr const char* kOddNames =
+    "<Q><Definition><InkList>"
+    "<I><ID>1</ID><DisplayName>a&#27;[2J&#10;b</DisplayName><InternalName>x</InternalName></I>"
+    "<I><ID>2</ID><DisplayName>\xe6\x97\xa5\xe6\x9c\xac</DisplayName><InternalName>y</InternalName>"
+    "</I><I><ID>3</ID><DisplayName>cafe\xcc\x81</DisplayName><InternalName>\xff\xc2\x9b\xe2\x80\xae"
+    "</InternalName></I></InkList>"
+    "<MediaList><M/></MediaList><PrintModeList><P/></PrintModeList><ResolutionList><R/>"
+    "</ResolutionList><ColorModeList><C><ColorantList><X/></ColorantList></C></ColorModeList>"
+    "</Definition></Q>";
+
+TEST(Output, MakesNamesHarmlessAndKeepsColumnsAligned) {
+  const TempFolder folder;
+  folder.Write("odd.qdf", kOddNames);
+  EXPECT_EQ(RunTool({"show", "odd.qdf", "--list", "inks"}, {folder.Path()}).out,
+            "Inks (3)\n"
+            "  ID  Display name   Internal name\n"
+            "   1  a\\x1B[2J\\x0Ab  x\n"
+            "   2  \xe6\x97\xa5\xe6\x9c\xac           y\n"
+            "   3  cafe\xcc\x81           \\xFF\\xC2\\x9B\\xE2\\x80\\xAE\n");
+  const nlohmann::json inks = RunJson({"show", "odd.qdf", "--list", "inks"}, {folder.Path()});
+  EXPECT_EQ(inks["inks"][0]["displayName"], "a\x1b[2J\nb");
+  EXPECT_EQ(inks["inks"][2]["displayName"], "cafe\xcc\x81");
+  EXPECT_EQ(inks["inks"][2]["internalName"], "\xef\xbf\xbd\xc2\x9b\xe2\x80\xae");
+  const std::string json = RunTool({"show", "odd.qdf", "--json"}, {folder.Path()}).out;
+  EXPECT_TRUE(std::all_of(json.begin(), json.end(),
+                          [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); }));
+}
+
+}  // namespace

@@ -1,0 +1,91 @@
+#pragma once
+
+// Runs the qdf program as a person's shell would, and keeps all that it says.
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using Words = std::vector<std::string>;
+
+// The code is 128 and more when a signal ended the program.
+struct Outcome {
+  int code = -1;
+  std::string out{};
+  std::string err{};
+
+  bool operator==(const Outcome& other) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
+  return stream << "code " << outcome.code << "\n--- out\n"
+                << outcome.out << "--- err\n"
+                << outcome.err;
+}
+
+struct Setting {
+  std::string folder = QDF_EXAMPLES;
+  Words environment{"NO_COLOR=", "TERM=xterm"};
+  int out = -1;           // takes standard output instead of the outcome
+  bool asNobody = false;  // without root's rights to read everything
+};
+
+inline std::string ReadBack(int file) {
+  std::string bytes(static_cast<std::size_t>(lseek(file, 0, SEEK_END)), '\0');
+  const ssize_t got = pread(file, bytes.data(), bytes.size(), 0);
+  close(file);
+  bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return bytes;
+}
+
+[[noreturn]] inline void BecomeTool(int program, Words words, const Setting& setting, int out,
+                                    int err) {
+  constexpr uid_t kNobody = 65534;
+  words.insert(words.begin(), "qdf");
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  for (const std::string& variable : setting.environment) putenv(strdup(variable.c_str()));
+  const bool ready = chdir(setting.folder.c_str()) == 0 && dup2(out, STDOUT_FILENO) >= 0 &&
+                     dup2(err, STDERR_FILENO) >= 0 &&
+                     (!setting.asNobody || geteuid() != 0 || setuid(kNobody) == 0);
+  if (ready) fexecve(program, arguments.data(), environ);
+  _exit(127);
+}
+
+inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
+  // Opened with the rights of the tests, since nobody may not even reach it.
+  const int program = open(QDF_PROGRAM, O_RDONLY | O_CLOEXEC);
+  const int out = memfd_create("out", MFD_CLOEXEC);
+  const int err = memfd_create("err", MFD_CLOEXEC);
+  const pid_t child = fork();
+  if (child == 0) BecomeTool(program, words, setting, setting.out >= 0 ? setting.out : out, err);
+  int status = 0;
+  waitpid(child, &status, 0);
+  close(program);
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ReadBack(out),
+          ReadBack(err)};
+}
+
+// Of a line without quotation marks.
+inline Words SplitWords(const std::string& line) {
+  std::istringstream stream(line);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+// What the tool says with --json; null, which equals nothing that is looked for, unless it answered
+// with exit code 0 and well-formed JSON.
+inline nlohmann::json RunJson(Words words, const Setting& setting = {}) {
+  words.emplace_back("--json");
+  const Outcome outcome = RunTool(words, setting);
+  if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
+  return nlohmann::json::parse(outcome.out, nullptr, false);
+}

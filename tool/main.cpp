@@ -1,0 +1,59 @@
+// The qdf program: finds the command that the command line names, runs it and tells its answer.
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <new>
+
+#include "tool/commandline.h"
+#include "tool/output.h"
+#include "tool/printable.h"
+
+namespace {
+
+const Command* const kCommands[] = {
+    &kShowCommand,
+};
+
+void ChangeFolder(const std::string& folder) {
+  if (chdir(folder.c_str()) == 0) return;
+  throw Failure(kWrongUsage, "can't work in " + Quoted(folder) + ": " + std::strerror(errno));
+}
+
+int Run(int count, char** words) {
+  const Invocation invocation = ParseCommandLine(count, words, kCommands);
+  if (!invocation.text.empty()) {
+    Print(invocation.text);
+    return kAnswered;
+  }
+  for (const std::string& folder : invocation.folders) ChangeFolder(folder);
+  const Answer answer = invocation.command->run(invocation.arguments);
+  PrintReport(answer.report, invocation.json);
+  return answer.code;
+}
+
+int RunAndTell(int count, char** words) {
+  try {
+    return Run(count, words);
+  } catch (const Failure& failure) {
+    Complain(failure);
+    return failure.code;
+  }
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  // A write to a closed pipe is then an error like any other.
+  std::signal(SIGPIPE, SIG_IGN);
+  try {
+    return RunAndTell(count, words);
+  } catch (const std::bad_alloc&) {
+    ComplainOfMemory();
+  } catch (const std::exception& fault) {
+    Complain(std::string("internal fault: ") + fault.what());
+  }
+  return kNoAnswer;
+}

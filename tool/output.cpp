@@ -1,0 +1,57 @@
+#include "tool/output.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include "tool/printable.h"
+
+namespace {
+
+// 0, or the error that stopped it.
+int WriteAll(int stream, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = write(stream, text.data(), text.size());
+    if (written >= 0) {
+      text.remove_prefix(static_cast<std::size_t>(written));
+    } else if (errno != EINTR) {
+      return errno;
+    }
+  }
+  return 0;
+}
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+bool WantsBold() {
+  return isatty(STDOUT_FILENO) != 0 && Variable("NO_COLOR").empty() && Variable("TERM") != "dumb";
+}
+
+}  // namespace
+
+void Print(std::string_view text) {
+  const int error = WriteAll(STDOUT_FILENO, text);
+  if (error == 0 || error == EPIPE) return;
+  throw Failure(kNoAnswer, std::string("standard output: ") + std::strerror(error));
+}
+
+void PrintReport(const Object& report, bool asJson) {
+  Print(asJson ? RenderJson(report) : RenderText(report, WantsBold()));
+}
+
+void Complain(std::string_view line) {
+  // Nobody is left to hear that even this can't be written.
+  WriteAll(STDERR_FILENO, "qdf: " + MakePrintable(line).text + '\n');
+}
+
+void Complain(const Failure& failure) {
+  Complain(failure.what());
+  WriteAll(STDERR_FILENO, RenderText(failure.below, false));
+}
+
+void ComplainOfMemory() { WriteAll(STDERR_FILENO, "qdf: out of memory\n"); }

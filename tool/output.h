@@ -1,0 +1,22 @@
+#pragma once
+
+// The one place that writes to the standard streams.
+
+#include <string>
+#include <string_view>
+
+#include "tool/failure.h"
+#include "tool/report.h"
+
+// To standard output, whole. A reader that has gone away has got what it wanted: that is no
+// failure. Anything else that keeps the text from being written throws one.
+void Print(std::string_view text);
+
+void PrintReport(const Object& report, bool asJson);
+
+// To standard error, as a line that begins with the program's name.
+void Complain(std::string_view line);
+void Complain(const Failure& failure);
+
+// Needs no memory.
+void ComplainOfMemory();

@@ -1,0 +1,43 @@
+#include "tool/suggest.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "qdf/support/text.h"
+#include "tool/printable.h"
+
+namespace {
+
+enum class Of { kPart, kWhole };
+
+int EditDistance(std::string_view text, std::string_view name, Of of) {
+  // The distances of the beginning of the text that was looked at last to what ends at each place
+  // of the name. A part may begin anywhere at no cost, and end anywhere.
+  std::vector<int> row(name.size() + 1, 0);
+  if (of == Of::kWhole) std::iota(row.begin(), row.end(), 0);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    int diagonal = std::exchange(row[0], static_cast<int>(i) + 1);
+    for (std::size_t j = 0; j < name.size(); ++j) {
+      const int replaced = diagonal + (UpperChar(text[i]) == UpperChar(name[j]) ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+    }
+  }
+  return of == Of::kWhole ? row.back() : *std::min_element(row.begin(), row.end());
+}
+
+}  // namespace
+
+Distance DistanceTo(std::string_view name, std::string_view text) {
+  return {EditDistance(text, name, Of::kPart), EditDistance(text, name, Of::kWhole)};
+}
+
+Failure UnknownWord(const std::string& kind, const std::string& given,
+                    std::vector<std::string> known) {
+  std::stable_sort(known.begin(), known.end(), [&](const std::string& a, const std::string& b) {
+    return DistanceTo(a, given) < DistanceTo(b, given);
+  });
+  std::string line = "there is no " + kind + ' ' + Quoted(given) + "; choose from";
+  for (std::size_t i = 0; i < known.size(); ++i) line += (i > 0 ? ", " : " ") + known[i];
+  return {kWrongUsage, line};
+}
