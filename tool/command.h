@@ -66,3 +66,4 @@ struct Command {
 };
 
 extern const Command kShowCommand;
+extern const Command kNarrowCommand;

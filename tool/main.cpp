@@ -15,6 +15,7 @@ namespace {
 
 const Command* const kCommands[] = {
     &kShowCommand,
+    &kNarrowCommand,
 };
 
 void ChangeFolder(const std::string& folder) {

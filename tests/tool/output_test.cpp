@@ -75,6 +75,8 @@ TEST(Output, MakesNamesHarmlessAndKeepsColumnsAligned) {
             "   1  a\\x1B[2J\\x0Ab  x\n"
             "   2  \xe6\x97\xa5\xe6\x9c\xac           y\n"
             "   3  cafe\xcc\x81           \\xFF\\xC2\\x9B\\xE2\\x80\\xAE\n");
+  const Outcome unknown = RunTool({"narrow", "odd.qdf", "--ink", "\x1b]0;\a"}, {folder.Path()});
+  EXPECT_EQ(unknown.err.find_first_of("\x1b\a"), std::string::npos) << unknown;
   const nlohmann::json inks = RunJson({"show", "odd.qdf", "--list", "inks"}, {folder.Path()});
   EXPECT_EQ(inks["inks"][0]["displayName"], "a\x1b[2J\nb");
   EXPECT_EQ(inks["inks"][2]["displayName"], "cafe\xcc\x81");

@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "qdf/core/apmqdf.h"
+#include "qdf/support/text.h"
+#include "tests/files.h"
+#include "tests/tool/document.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+class Narrow : public testing::Test {
+ protected:
+  Narrow() { folder_.Write("small.qdf", kSmallDocument); }
+
+  Outcome Run(const Words& choices) const {
+    Words words = {"narrow", "small.qdf"};
+    words.insert(words.end(), choices.begin(), choices.end());
+    return RunTool(words, {folder_.Path()});
+  }
+
+  nlohmann::json Json(const std::string& choices) const {
+    return RunJson(SplitWords("narrow small.qdf " + choices), {folder_.Path()});
+  }
+
+ private:
+  TempFolder folder_;
+};
+
+TEST_F(Narrow, ListsWhatTheNextLevelOffers) {
+  EXPECT_EQ(Run({}), (Outcome{0, R"(Inks (3)
+  ID  Display name  Internal name  Default
+   1  Photo Black   ph             yes
+   2  Matte Black   mt
+   3  Unused        un
+
+Media sources (2)
+  ID  Display name  Internal name  Default
+  50  Roll          ro
+  51  Tray          tr             yes
+)"}));
+  EXPECT_EQ(Run({"--ink", "1", "--media", "pl", "--print-mode", "dr", "--resolution", "fine"}),
+            (Outcome{0, R"(Choice
+  Ink:         1 Photo Black (default)
+  Media:       10 Plain
+  Print mode:  20 Draft
+  Resolution:  31 fine
+
+Colour modes (2)
+  ID  Display name  Internal name  Colorants   Default
+  40  Colour        cmyk           Cyan, Gold  yes
+  41  Grey
+)"}));
+}
+
+TEST_F(Narrow, TellsTheWholeDefaultJob) {
+  EXPECT_EQ(Run({"--defaults"}), (Outcome{0, R"(Choice
+  Ink:           1 Photo Black (default)
+  Media:         11 Glossy (default)
+  Print mode:    21 Best (default)
+  Resolution:    30 300 dpi (default)
+  Colour mode:   40 Colour (default)
+  Media source:  51 Tray (default)
+  Media size:    60 A4 (default)
+
+Printer specific text:   Quality=1
+Default dither:          Smooth
+Default RIP resolution:  -
+
+Profiles (2)
+  Name   Default
+  a.icc
+  b.icc  yes
+
+Dithers (2)
+  Name    RIP resolution  Default
+  Fine    300x600
+  Coarse  -
+
+Margins: none
+)"}));
+  EXPECT_EQ(Run({"--source", "Roll", "--defaults"}), (Outcome{0, R"(Choice
+  Media source:  50 Roll
+  Media size:    61 A3 (default)
+
+Margins (2)
+  ID  Display name  Internal name  First  Second  Third  Fourth  Default
+  70  narrow                           1       2      3       4
+  71  wide                             0       0      0       0  yes
+)"}));
+}
+
+TEST_F(Narrow, TellsProgramsTheSame) {
+  EXPECT_EQ(Json("--ink 1 --media gl --defaults"), nlohmann::json::parse(R"({
+    "document": "small.qdf",
+    "choice": {
+      "ink": {"id": 1, "displayName": "Photo Black", "internalName": "ph", "default": true},
+      "media": {"id": 11, "displayName": "Glossy", "internalName": "gl", "default": true},
+      "printMode": {"id": 21, "displayName": "Best", "internalName": "be", "default": true},
+      "resolution": {"id": 30, "displayName": "300 dpi", "internalName": null, "default": true},
+      "colorMode": {"id": 40, "displayName": "Colour", "internalName": "cmyk", "default": true}},
+    "printerSpecificText": "Quality=1", "defaultProfile": "b.icc", "defaultDither": "Smooth",
+    "defaultRipResolution": null,
+    "profiles": [{"name": "a.icc", "default": false}, {"name": "b.icc", "default": true}],
+    "dithers": [{"name": "Fine", "ripResolution": {"x": 300, "y": 600}, "default": false},
+                {"name": "Coarse", "ripResolution": null, "default": false}]})"));
+}
+
+TEST_F(Narrow, TakesAnIDBeforeANameAndTheExactNameFirst) {
+  const struct {
+    const char* choices;
+    const char* level;
+    int id;
+  } rows[] = {
+      {"--ink 1 --media 10", "media", 10},      // an id, although 12 is called so
+      {"--ink 1 --media PL", "media", 12},      // with case
+      {"--ink 1 --media pl", "media", 10},      // with case
+      {"--ink 1 --media plain", "media", 10},   // without
+      {"--ink 1 --media Glossy", "media", 11},  // the one of two that is offered
+      {"--ink 2 --media 13", "media", 13},      // in the tree, but behind the node that offers
+      {"--ink 1 --media 11 --print-mode BE", "printMode", 21},
+      {"--source TRAY", "mediaSource", 51},
+  };
+  for (const auto& row : rows) {
+    const nlohmann::json answer = Json(row.choices);
+    ASSERT_TRUE(answer.is_object()) << row.choices;
+    EXPECT_EQ(answer["choice"][row.level]["id"], row.id) << row.choices;
+  }
+}
+
+TEST_F(Narrow, ListsTheChoicesForAnUnknownOrAmbiguousName) {
+  EXPECT_EQ(Run({"--ink", "mate"}), (Outcome{2, "", R"(qdf: small.qdf: ink "mate" is unknown
+Choices (3)
+  ID  Display name  Internal name
+   2  Matte Black   mt
+   3  Unused        un
+   1  Photo Black   ph
+)"}));
+  EXPECT_EQ(Run({"--ink", "2", "--media", "glossy"}),
+            (Outcome{2, "", R"(qdf: small.qdf: media "glossy" is ambiguous, give an id
+Choices (2)
+  ID  Display name  Internal name
+  11  Glossy        gl
+  13  Glossy        gl2
+)"}));
+}
+
+TEST_F(Narrow, SaysWhichLevelGaveNone) {
+  const struct {
+    const char* choices;
+    const char* line;
+  } rows[] = {
+      {"--ink 3", "no media for ink 3 \"Unused\""},
+      {"--ink 3 --defaults", "no media for ink 3 \"Unused\""},
+      {"--ink 2 --media 11", "media 11 \"Glossy\" isn't offered for ink 2 \"Matte Black\""},
+      {"--ink 2 --media 11 --print-mode 20 --resolution 30 --color-mode 40",
+       "media 11 \"Glossy\" isn't offered for ink 2 \"Matte Black\""},
+      {"--ink 2 --media 10", "no print modes for ink 2 \"Matte Black\", media 10 \"Plain\""},
+      {"--ink 2 --media 13 --print-mode 20 --resolution 31 --color-mode 40",
+       "colour mode 40 \"Colour\" isn't offered for ink 2 \"Matte Black\", media 13 \"Glossy\", "
+       "print mode 20 \"Draft\", resolution 31 \"fine\""},
+      {"--source 51 --size 60", "no margins for media source 51 \"Tray\", media size 60 \"A4\""},
+      {"--source 51 --size 61", "media size 61 \"A3\" isn't offered for media source 51 \"Tray\""},
+  };
+  for (const auto& row : rows) {
+    const std::string line = std::string("qdf: small.qdf: ") + row.line + '\n';
+    EXPECT_EQ(Run(SplitWords(row.choices)), (Outcome{1, "", line}));
+  }
+}
+
+// The first of the records, or the one at the default position, as the tool tells a choice.
+template <class Record>
+int Take(const std::vector<Record>& records, int position, const nlohmann::json& told) {
+  const Record& record = records.at(static_cast<std::size_t>(position));
+  EXPECT_EQ(told["id"], record.ID);
+  EXPECT_EQ(told["displayName"], FieldText(record.DisplayName));
+  EXPECT_EQ(told["default"], true);
+  return record.ID;
+}
+
+void ExpectDefaultJob(APMQDF& document, const nlohmann::json& told) {
+  std::vector<InkTypeInfo> inks;
+  std::vector<MediaTypeInfo> media;
+  std::vector<PrintModeInfo> printModes;
+  std::vector<ResolutionInfo> resolutions;
+  std::vector<ColorModeInfo> colorModes;
+  int at = 0;
+  const nlohmann::json& choice = told["choice"];
+  document.GetInkTypeList(inks, at);
+  const int ink = Take(inks, at, choice["ink"]);
+  document.GetMediaTypeList(ink, media, at);
+  const int medium = Take(media, at, choice["media"]);
+  document.GetPrintModeList(ink, medium, printModes, at);
+  const int mode = Take(printModes, at, choice["printMode"]);
+  document.GetResolutionList(ink, medium, mode, resolutions, at);
+  const int resolution = Take(resolutions, at, choice["resolution"]);
+  document.GetColorModeList(ink, medium, mode, resolution, colorModes, at);
+  const int color = Take(colorModes, at, choice["colorMode"]);
+
+  std::vector<AString> dithers;
+  AString preset;
+  document.GetDitherList(ink, medium, mode, resolution, color, dithers, preset);
+  ASSERT_EQ(told["dithers"].size(), dithers.size());
+  for (std::size_t i = 0; i < dithers.size(); ++i) {
+    double x = 0;
+    double y = 0;
+    document.GetRipResolutionForDither(ink, medium, mode, resolution, color, dithers[i], x, y);
+    const nlohmann::json expected = {{"name", static_cast<const char*>(dithers[i])},
+                                     {"ripResolution", {{"x", x}, {"y", y}}},
+                                     {"default", dithers[i] == preset}};
+    EXPECT_EQ(told["dithers"][i], expected);
+  }
+}
+
+TEST(NarrowExamples, AgreesWithTheLibrary) {
+  for (const char* name : {"plot36.qdf", "dyesub6.qdf"}) {
+    AFilePath path((std::string(QDF_EXAMPLES "/OutputDrivers/") + name).c_str());
+    APMQDF* loaded = nullptr;
+    PMGetQDFInterface(path, &loaded);
+    const std::unique_ptr<APMQDF> document(loaded);
+    ASSERT_NE(document, nullptr);
+    ExpectDefaultJob(*document, RunJson({"narrow", name, "--defaults"}));
+  }
+}
+
+}  // namespace
