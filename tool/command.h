@@ -67,3 +67,4 @@ struct Command {
 
 extern const Command kShowCommand;
 extern const Command kNarrowCommand;
+extern const Command kTreeCommand;

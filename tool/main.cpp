@@ -16,6 +16,7 @@ namespace {
 const Command* const kCommands[] = {
     &kShowCommand,
     &kNarrowCommand,
+    &kTreeCommand,
 };
 
 void ChangeFolder(const std::string& folder) {

@@ -15,7 +15,7 @@ struct Refusal {
 TEST(CommandLine, RefusesWrongUsageInOneLine) {
   const Refusal refusals[] = {
       {{}, "a command is missing; try 'qdf --help'"},
-      {{"sow", "plot36.qdf"}, "there is no command \"sow\"; choose from show, narrow"},
+      {{"sow", "plot36.qdf"}, "there is no command \"sow\"; choose from show, narrow, tree"},
       {{"--json"}, "there is no option \"--json\"; choose from --help, --version, -C"},
       {{"-C"}, "-C: 1 required DIR missing; try 'qdf --help'"},
       {{"-C", "nowhere", "show", "x"}, "can't work in \"nowhere\": No such file or directory"},
@@ -29,11 +29,13 @@ TEST(CommandLine, RefusesWrongUsageInOneLine) {
       {{"show", "plot36.qdf", "--list", "medium"},
        "there is no list \"medium\"; choose from media, media-sizes, media-sources, print-modes, "
        "color-modes, margins, inks, resolutions"},
+      {{"tree", "plot36.qdf", "--depth", "-1"}, "--depth takes a number from 0 on, not \"-1\""},
+      {{"tree", "plot36.qdf", "--depth", "2x"}, "--depth takes a number from 0 on, not \"2x\""},
       {{"narrow", "plot36.qdf", "--ink", "1", "--ink", "2"},
        "--ink: At Most 1 required but received 2; try 'qdf narrow --help'"},
       {{"narrow", "plot36.qdf", "--media", "Plain"}, "--media needs --ink as well, or --defaults"},
       {{"narrow", "plot36.qdf", "--size", "A4"}, "--size needs --source as well, or --defaults"},
-      {{"\x1b[1m\n"}, "there is no command \"\\x1B[1m\\x0A\"; choose from show, narrow"},
+      {{"\x1b[1m\n"}, "there is no command \"\\x1B[1m\\x0A\"; choose from show, tree, narrow"},
   };
   for (const Refusal& refusal : refusals) {
     EXPECT_EQ(RunTool(refusal.words), (Outcome{2, "", "qdf: " + std::string(refusal.line) + "\n"}));
@@ -54,7 +56,7 @@ std::vector<std::string> Examples(const std::string& help) {
 TEST(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
   const Outcome overview = RunTool({"--help"});
   EXPECT_EQ(overview.code, 0);
-  for (const char* command : {"show", "narrow"}) {
+  for (const char* command : {"show", "narrow", "tree"}) {
     EXPECT_NE(overview.out.find(std::string("\n  ") + command + ' '), std::string::npos);
     const Outcome help = RunTool({command, "--help"});
     EXPECT_EQ(help.code, 0);

@@ -64,7 +64,7 @@ TEST(Load, SaysWhyAFileCannotBeRead) {
       {"./loop", "./loop: the links lead nowhere"},
   };
   // The same for every command, since all load in one way.
-  for (const char* command : {"show", "narrow"}) {
+  for (const char* command : {"show", "narrow", "tree"}) {
     for (const auto& refusal : refusals) {
       const std::string line = std::string("qdf: ") + refusal.line + '\n';
       EXPECT_EQ(RunTool({command, refusal.name}, {folder.Path()}), (Outcome{1, "", line}));

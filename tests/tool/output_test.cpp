@@ -41,7 +41,7 @@ TEST(Output, SaysWhenItCannotBeWritten) {
   const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
   const Outcome noSpace{1, "", "qdf: standard output: No space left on device\n"};
   EXPECT_EQ(RunTool(kInks, {.out = full}), noSpace);
-  EXPECT_EQ(RunTool({"show", "plot36.qdf", "--json"}, {.out = full}), noSpace);
+  EXPECT_EQ(RunTool({"tree", "plot36.qdf", "--json"}, {.out = full}), noSpace);
   EXPECT_EQ(RunTool({"--help"}, {.out = full}), noSpace);
   close(full);
 }
@@ -50,7 +50,7 @@ TEST(Output, EndsQuietlyWhenNobodyReads) {
   int ends[2];
   ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
   close(ends[0]);
-  EXPECT_EQ(RunTool({"show", "plot36.qdf"}, {.out = ends[1]}), (Outcome{0}));
+  EXPECT_EQ(RunTool({"tree", "plot36.qdf"}, {.out = ends[1]}), (Outcome{0}));
   close(ends[1]);
 }
 
