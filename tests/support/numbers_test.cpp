@@ -1,0 +1,210 @@
+// Numbers out of texts. What the C library reads in the "C" locale is right by definition, as long
+// as a type can hold it.
+
+#include "qdf/support/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "qdf/definition/resolutionvalue.h"
+
+namespace {
+
+constexpr int kMax = std::numeric_limits<int>::max();
+constexpr int kMin = std::numeric_limits<int>::min();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+// For as long as it lives, the host has chosen a locale with a decimal comma, where there is one.
+class DecimalComma {
+ public:
+  DecimalComma() : made_(setlocale(LC_ALL, "de_DE.UTF-8") != nullptr) {}
+  ~DecimalComma() { setlocale(LC_ALL, "C"); }
+  DecimalComma(const DecimalComma&) = delete;
+  DecimalComma& operator=(const DecimalComma&) = delete;
+
+  bool Made() const { return made_; }
+
+ private:
+  bool made_;
+};
+
+// By bits, but any NaN is as good as another.
+bool Same(double a, double b) {
+  return (std::isnan(a) && std::isnan(b)) || std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+const char* const kTexts[] = {"",
+                              " ",
+                              "0",
+                              "-0",
+                              "7",
+                              "720",
+                              "600 dpi",
+                              "600,5",
+                              "0.5",
+                              ".5",
+                              "5.",
+                              "-.5e1x",
+                              "1e",
+                              "1e+",
+                              "1e5",
+                              "1E-3",
+                              "0x10",
+                              "0x",
+                              "0x1p3",
+                              "0X.8",
+                              "inf",
+                              "-Infinity",
+                              "nan",
+                              "NAN(1)",
+                              "+3",
+                              "+-3",
+                              "--3",
+                              "\t\n\v\f\r 8",
+                              "\xA0 8",
+                              "abc",
+                              "12abc",
+                              "e5",
+                              ".",
+                              "-",
+                              "1e999",
+                              "-1e999",
+                              "1e-999",
+                              "123456789012345",
+                              "1234567890123456",
+                              "9007199254740993",
+                              "00000000000000000000012",
+                              "123456789012345.5",
+                              "4.9e-324",
+                              "1.7976931348623157e308",
+                              "1_000",
+                              "1\n2"};
+
+TEST(Numbers, AreWhatTheCLibraryReads) {
+  for (const char* text : kTexts) {
+    EXPECT_TRUE(Same(ReadDouble(text), std::strtod(text, nullptr))) << '"' << text << '"';
+  }
+  const std::string digits(100'000, '7');
+  EXPECT_EQ(ReadDouble(digits.c_str()), kInfinity);
+  EXPECT_EQ(ReadInt(digits.c_str()), kMax);
+}
+
+TEST(Numbers, WholeOnesSaturate) {
+  const struct {
+    const char* text;
+    int value;
+  } rows[] = {{"", 0},
+              {"abc", 0},
+              {"12abc", 12},
+              {"-12.9", -12},
+              {" \t\n\v\f\r+7", 7},
+              {"+-7", 0},
+              {"- 7", 0},
+              {"007", 7},
+              {"0x10", 0},
+              {"1e3", 1},
+              {"2147483647", kMax},
+              {"2147483648", kMax},
+              {"-2147483648", kMin},
+              {"-2147483649", kMin},
+              {"99999999999999999999", kMax},
+              {"-99999999999999999999", kMin}};
+  for (const auto& row : rows) EXPECT_EQ(ReadInt(row.text), row.value) << row.text;
+}
+
+// Against one call of sscanf, as the forms of these values are told.
+TEST(Numbers, AreScannedBetweenBlanksAndCommas) {
+  const char* const texts[] = {"",        "1,2,3,4",    "1 2 3 4",    " 1 ,\t2,,3\n4 5",
+                               "8.5,11",  "1",          "1,x,3,4",    "1e,2,3,4",
+                               "1e2e3 4", "1.5.5 6",    "0x10,0x1p3", "inf nan -inf 1",
+                               "1-2-3-4", "1e+ 2",      ".,1",        "-,1",
+                               "1;2",     "nan(1) 2 3", "infin 1",    "1e999,-1e999"};
+  for (const char* text : texts) {
+    std::string blanks(text);
+    for (char& c : blanks) c = c == ',' ? ' ' : c;
+    double expected[4] = {90, 91, 92, 93};
+    double got[4] = {90, 91, 92, 93};
+    EXPECT_GE(std::sscanf(blanks.c_str(), "%lf %lf %lf %lf", &expected[0], &expected[1],
+                          &expected[2], &expected[3]),
+              -1);
+    ScanDoubles(text, std::array{&got[0], &got[1], &got[2], &got[3]});
+    for (int i = 0; i < 4; ++i) EXPECT_TRUE(Same(got[i], expected[i])) << text << " at " << i;
+  }
+}
+
+TEST(Numbers, OfAResolutionStandAroundAnX) {
+  const struct {
+    const char* text;
+    double x, y;
+  } rows[] = {{"720", 720, 720},
+              {"720x360", 720, 360},
+              {"720X360", 720, 360},
+              {"720x", 720, 0},
+              {"x360", 0, 360},
+              {"600 dpi", 600, 600},
+              {"", 0, 0},
+              {"600.5x300.25", 600.5, 300.25},
+              {" 1 x 2 x 3", 1, 2},
+              {"0x10", 0, 10},
+              {"max 600", 0, 600},
+              {"1e2x1E2", 100, 100},
+              {"-1x-2", -1, -2},
+              {"infxnan", kInfinity, kNaN}};
+  for (const auto& row : rows) {
+    double x = 9;
+    double y = 9;
+    ReadResolutionValue(row.text, x, y);
+    EXPECT_TRUE(Same(x, row.x) && Same(y, row.y)) << row.text << ": " << x << ", " << y;
+  }
+}
+
+TEST(Numbers, AreCutWithoutLeavingTheirType) {
+  const struct {
+    double value;
+    int whole;
+  } rows[] = {
+      {0.9, 0},      {-0.9, 0},          {-1.5, -1}, {2147483647.5, kMax}, {-2147483648.5, kMin},
+      {1e300, kMax}, {-kInfinity, kMin}, {kNaN, 0}};
+  for (const auto& row : rows) EXPECT_EQ(TruncateToInt(row.value), row.whole) << row.value;
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  EXPECT_EQ(NarrowToFloat(0.1), 0.1F);
+  EXPECT_EQ(NarrowToFloat(1e300), kLargest);
+  EXPECT_EQ(NarrowToFloat(-1e39), -kLargest);
+  EXPECT_EQ(NarrowToFloat(3.4028235e38), kLargest);
+  EXPECT_TRUE(std::isinf(NarrowToFloat(kInfinity)));
+  EXPECT_TRUE(std::isnan(NarrowToFloat(kNaN)));
+}
+
+TEST(Numbers, DontFollowTheLocaleOfTheHost) {
+  std::vector<double> expected;
+  for (const char* text : kTexts) expected.push_back(ReadDouble(text));
+  const DecimalComma locale;
+  if (!locale.Made()) GTEST_SKIP() << "no locale de_DE.UTF-8; scripts/setup makes it";
+  ASSERT_EQ(std::strtod("0.5", nullptr), 0.0) << "this locale's decimal sign is a point";
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_TRUE(Same(ReadDouble(kTexts[i]), expected[i])) << kTexts[i];
+  }
+  double x = 0;
+  double y = 0;
+  ScanDoubles("8.5,11.25", std::array{&x, &y});
+  EXPECT_EQ(x + y, 19.75);
+  ReadResolutionValue("0.5x1.5", x, y);
+  EXPECT_EQ(x + y, 2.0);
+  AString text;
+  text.Format("%lf %f", 0.5, 1.5);
+  EXPECT_EQ(text, "0.500000 1.500000");
+  char own[8];
+  std::snprintf(own, sizeof own, "%.1f", 0.5);
+  EXPECT_STREQ(own, "0,5") << "the host's own locale is left as it was";
+}
+
+}  // namespace
