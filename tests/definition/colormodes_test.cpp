@@ -1,0 +1,177 @@
+// Colour modes, their colorants, and how colorants are compared.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "qdf/definition/anewcoloropt.h"
+#include "qdf/definition/readers.h"
+#include "qdf/support/ownership.h"
+#include "qdf/support/text.h"
+#include "tests/documents.h"
+
+namespace {
+
+class ColorModeList : public OwnedItems<ColorModeInfo> {
+ public:
+  explicit ColorModeList(const std::string& entries) {
+    ReadColorModeList(
+        TreeOf("<a><Definition><ColorModeList>" + entries + "</ColorModeList></Definition></a>")
+            .get(),
+        *this);
+  }
+};
+
+std::string Colorants(const std::string& colorants) {
+  return "<m><ColorantList>" + colorants + "</ColorantList></m>";
+}
+
+TEST(ColorModes, WithoutAColorantAreDropped) {
+  const ColorModeList list(
+      "<m><ID>1</ID></m><m><ID>2</ID><ColorantList/></m>"
+      "<m><ID>3</ID><ColorantList> <!-- --> </ColorantList><ColorantList><c/></ColorantList></m>"
+      "<m><ID>4</ID><InternalName>first</InternalName><ColorantList>x<c/><d/></ColorantList></m>"
+      "<m><ID>4</ID><InternalName>second</InternalName><ColorantList><c/></ColorantList></m>");
+  const auto modes = Records<ColorModeInfo>(list);
+  EXPECT_EQ(IDs(modes), "4");
+  EXPECT_EQ(Str(modes.at(0).InternalName), "first");
+  EXPECT_EQ(modes.at(0).ColorantCount, 2);
+}
+
+TEST(ColorModes, FillWhatAColorantSays) {
+  const std::string longName(70, 'n');
+  const std::string longShape(130, 's');
+  const ColorModeList list(Colorants(
+      "<c/><c Shape='' Angle='' Frequency='' IsPrint='' IsSpotColor=''><ColorDepth/></c>"
+      "<c Shape='Round' Angle='30.1' Frequency='1e39' IsPrint='0' IsSpotColor=' 2x'>"
+      "<ColorDepth>8</ColorDepth><DisplayName>Cyan</DisplayName><InternalName>C</InternalName></c>"
+      "<c Shape='" +
+      longShape + "' Angle='x'><DisplayName>" + longName +
+      "</DisplayName></c><c shape='Round'><Angle>1</Angle></c>"));
+  const auto modes = Records<ColorModeInfo>(list);
+  ASSERT_EQ(modes.size(), 1U);
+  ASSERT_EQ(modes[0].ColorantCount, 5);
+  const ANewColorOpt* options = modes[0].Colorants;
+  const ANewColorOpt plain;
+  EXPECT_EQ(options[0] == plain, 1);
+  EXPECT_EQ(options[4] == plain, 1) << "attributes are attributes, with case";
+  EXPECT_EQ(options[1].Colorant.ColorDepth, 0) << "an empty element counts, an attribute doesn't";
+  EXPECT_EQ(Str(options[1].Shape), "Diamond");
+  EXPECT_EQ(options[1].Frequency, 55.0F);
+  EXPECT_EQ(options[1].Angle, 45.0F);
+  EXPECT_EQ(options[1].Setting5, 0.0);
+  EXPECT_EQ(options[1].Colorant.IsPrint, 1);
+  EXPECT_EQ(Str(options[2].Shape), "Round");
+  EXPECT_EQ(options[2].Angle, 30.1F);
+  EXPECT_EQ(options[2].Setting5, 30.1);
+  EXPECT_EQ(options[2].Frequency, std::numeric_limits<float>::max());
+  EXPECT_EQ(options[2].Colorant.IsPrint, 0);
+  EXPECT_EQ(options[2].Colorant.IsSpotColor, 2);
+  EXPECT_EQ(options[2].Colorant.ColorDepth, 8);
+  EXPECT_EQ(Str(options[2].Colorant.DisplayName) + Str(options[2].Colorant.InternalName), "CyanC");
+  EXPECT_EQ(Str(options[3].Shape), longShape.substr(0, 128));
+  EXPECT_EQ(Str(options[3].Colorant.DisplayName), longName.substr(0, 64));
+  EXPECT_EQ(options[3].Angle, 0.0F);
+  EXPECT_EQ(options[3].Colorant.IsSpotColor, 0) << "behind a full field";
+}
+
+TEST(ColorModes, AreCopiedWithTheirColorants) {
+  auto source = std::make_unique<ColorModeInfo>();
+  source->ID = 5;
+  SetField(source->DisplayName, std::string(256, 'd'));
+  source->ColorantCount = 2;
+  source->Colorants = new ANewColorOpt[2];
+  source->Colorants[1].Setting4 = 44;
+  const ColorModeInfo copy(*source);
+  ColorModeInfo assigned(copy);
+  assigned = *source;
+  const ColorModeInfo& itself = assigned;
+  assigned = itself;
+  source->Colorants[1].CurveValues[3] = 9.0;
+  source.reset();
+  EXPECT_EQ(copy.Colorants[1].Setting4 + assigned.Colorants[1].Setting4, 88);
+  EXPECT_EQ(copy.Colorants[1] == assigned.Colorants[1], 1);
+  EXPECT_EQ(Str(assigned.DisplayName), std::string(256, 'd'));
+
+  ColorModeInfo empty;
+  EXPECT_EQ(empty.Colorants, nullptr);
+  assigned = empty;
+  EXPECT_EQ(assigned.Colorants, nullptr);
+  EXPECT_EQ(assigned.ColorantCount + assigned.ID, 0);
+  EXPECT_EQ(ColorModeInfo(empty).Colorants, nullptr);
+}
+
+// Each change, and whether it asks for another rasterising and makes the records differ.
+TEST(ColorOptions, DifferInTwoWays) {
+  using Option = ANewColorOpt;
+  const struct {
+    const char* what;
+    void (*change)(Option&);
+    int again, differs;
+  } rows[] = {
+      {"nothing", [](Option&) {}, 0, 0},
+      {"Shape", [](Option& o) { o.Shape[0] = 'd'; }, 1, 1},
+      {"Shape behind its end", [](Option& o) { o.Shape[100] = 'x'; }, 0, 0},
+      {"Angle", [](Option& o) { o.Angle = std::nextafter(o.Angle, 99.0F); }, 1, 1},
+      {"Frequency", [](Option& o) { o.Frequency = std::nextafter(o.Frequency, 0.0F); }, 1, 1},
+      {"Setting4", [](Option& o) { ++o.Setting4; }, 1, 1},
+      {"Setting5", [](Option& o) { o.Setting5 = 1e-300; }, 1, 1},
+      {"Setting6", [](Option& o) { ++o.Setting6; }, 1, 1},
+      {"Setting0", [](Option& o) { ++o.Setting0; }, 1, 1},
+      {"Setting7", [](Option& o) { ++o.Setting7; }, 1, 1},
+      {"Setting8", [](Option& o) { ++o.Setting8; }, 1, 1},
+      {"Setting9", [](Option& o) { ++o.Setting9; }, 0, 1},
+      {"Setting10", [](Option& o) { ++o.Setting10; }, 1, 1},
+      {"CurveFlags", [](Option& o) { o.CurveFlags[7] = 1; }, 0, 0},
+      {"a curve point, inside", [](Option& o) { o.CurveValues[20] += 0.00000005; }, 0, 0},
+      {"a curve point, outside", [](Option& o) { o.CurveValues[20] -= 0.0000002; }, 1, 1},
+      {"a curve point, just at it", [](Option& o) { o.CurveValues[0] = 0.0000001; }, 1, 0},
+      {"a curve point, just below it", [](Option& o) { o.CurveValues[0] = -0.0000001; }, 1, 0},
+      {"no number", [](Option& o) { o.CurveValues[5] = std::nan(""); }, 1, 1},
+      {"InternalName", [](Option& o) { o.Colorant.InternalName[63] = 'x'; }, 0, 0},
+      {"its start", [](Option& o) { o.Colorant.InternalName[0] = 'x'; }, 1, 1},
+      {"DisplayName", [](Option& o) { o.Colorant.DisplayName[0] = 'x'; }, 1, 1},
+      {"ColorDepth", [](Option& o) { ++o.Colorant.ColorDepth; }, 1, 1},
+      {"IsSpotColor", [](Option& o) { ++o.Colorant.IsSpotColor; }, 1, 1},
+      {"IsPrint", [](Option& o) { ++o.Colorant.IsPrint; }, 0, 1},
+      {"ColorantSetting5", [](Option& o) { ++o.Colorant.ColorantSetting5; }, 1, 1}};
+  for (const auto& row : rows) {
+    const Option former;
+    Option option;
+    row.change(option);
+    EXPECT_EQ(option.ColorOptionRequireReRip(former), row.again) << row.what;
+    EXPECT_EQ(former.ColorOptionRequireReRip(option), row.again) << row.what;
+    EXPECT_EQ(option != former, row.differs) << row.what;
+    EXPECT_EQ(option == former, 1 - row.differs) << row.what;
+    Option copy;
+    EXPECT_EQ(&(copy = option), &copy);
+    if (row.what != std::string("no number")) {
+      EXPECT_EQ(copy != option, 0) << "assigned: " << row.what;
+      EXPECT_EQ(copy.ColorOptionRequireReRip(option), 0) << "assigned: " << row.what;
+    }
+    EXPECT_EQ(std::memcmp(copy.CurveFlags, option.CurveFlags, sizeof copy.CurveFlags), 0);
+    EXPECT_EQ(copy.Setting9, option.Setting9);
+  }
+}
+
+TEST(ColorOptions, CompareFullFieldsWithinTheirBounds) {
+  ANewColorOpt a;
+  SetField(a.Shape, std::string(128, 's'));
+  SetField(a.Colorant.InternalName, std::string(64, 'i'));
+  SetField(a.Colorant.DisplayName, std::string(64, 'd'));
+  ANewColorOpt b;
+  b = a;
+  b.Frequency = a.Frequency;
+  EXPECT_EQ(a == b, 1);
+  b.Colorant.DisplayName[63] = 'x';
+  EXPECT_EQ(a == b, 0);
+  EXPECT_EQ(a.CurveValues[0], 0.0);
+  EXPECT_EQ(a.CurveValues[7], 7 * 0.05);
+  EXPECT_EQ(a.CurveFlags[0] + a.CurveFlags[20] * 10 + a.CurveFlags[1] * 100, 11);
+}
+
+}  // namespace
