@@ -1,0 +1,206 @@
+// Both control sections, read into trees.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "qdf/control/ditherlist.h"
+#include "qdf/control/readers.h"
+#include "qdf/core/documentmembers.h"
+#include "qdf/support/ownership.h"
+#include "tests/documents.h"
+
+namespace {
+
+// The names of a document's leaves and its control tree without what stands above colour modes.
+struct ControlTree {
+  explicit ControlTree(const DocumentText& text) : document(Load(text)) {
+    if (document == nullptr) return;
+    const DocumentMembers members(*document);
+    tree = Dump(members.ControlTreeRoot);
+    profiles = Dump(members.ICCProfileList);
+    settings = Dump(members.OEMInfoList);
+    dithers = Dump(members.DitherNameList);
+    for (const auto& record : Records<DitherResolutionInfo>(members.DitherResolutionList)) {
+      records += Str(record.Name) + " " + std::to_string(record.XResolution) + " " +
+                 std::to_string(record.YResolution) + ";";
+      owners.push_back(record.OwnerNode);
+    }
+  }
+
+  std::unique_ptr<APMQDF> document;
+  std::string tree, profiles, settings, dithers, records;
+  std::vector<CQDFNode*> owners;
+};
+
+// A document with the colour modes on one path.
+ControlTree OnePath(const std::string& colorModes) {
+  return ControlTree({.ColorModeList = ColorModes("1;2;3"),
+                      .Control = "<Control_Definition><Ink ID='1'><Media ID='1'><PrintMode ID='1'>"
+                                 "<Resolution ID='1'>" +
+                                 colorModes +
+                                 "</Resolution></PrintMode></Media></Ink></Control_Definition>"});
+}
+
+std::string Under(const std::string& colorModes) { return "[1[1[1[1[" + colorModes + "]]]]]"; }
+
+// Of each colour mode the ProfileNode, DitherNode and RipResolutionNode.
+constexpr const char* kEmpty = ">-1[>-1;>-1;]";
+
+TEST(ControlTree, KeepsWhatTheListsKnow) {
+  const struct {
+    const char* control;
+    const char* tree;
+  } rows[] = {
+      {"", ""},
+      {"<control_definition DefaultInk='1'/>", ""},
+      {"<Control_Definition DefaultInk=' 9x'/><Control_Definition DefaultInk='1'/>", ">9"},
+      {"<Control_Definition DefaultInk=''><Ink ID='1,2' DefaultMedia='-7'/></Control_Definition>",
+       "[1,2>-7]"},
+      {"<Control_Definition><Ink ID='2'/><Ink ID='2'/><ink ID='1'/><Ink/><Ink ID=''/>"
+       "<Ink ID='9'><Media ID='ALL'/></Ink><X><Ink ID='1'/></X></Control_Definition>",
+       "[2;2]"},
+      {"<Control_Definition><Ink ID='-(1)' DefaultMedia='11' Default='5'>"
+       "<PrintMode ID='1'/><Media ID='ALL' DefaultPrintMode='4'><PrintMode ID='1' "
+       "DefaultResolution='99999999999'><Resolution ID='(1)' DefaultColorMode='1'><Media ID='10'/>"
+       "<ColorMode ID='7'/></Resolution></PrintMode></Media></Ink></Control_Definition>",
+       "[2,0>11[12,10,11>4[1>2147483647[1>1]]]]"}};
+  for (const auto& row : rows) {
+    const ControlTree read({.InkList = Entries("1;2;0"),
+                            .MediaList = Entries("10=b;11=c;12=a"),
+                            .Control = row.control});
+    ASSERT_NE(read.document, nullptr);
+    EXPECT_EQ(read.tree, row.tree) << row.control;
+  }
+}
+
+TEST(ControlTree, GivesEachColourModeThreeLeaves) {
+  const ControlTree read = OnePath(
+      "<ColorMode ID='1,2' DefaultICCProfile=' P3 ' DefaultDither='lost'>"
+      "<PrinterSpecificSetting> \n</PrinterSpecificSetting><ICCProfile>p1</ICCProfile>"
+      "<ICCProfile> p1</ICCProfile><ICCProfile>P1</ICCProfile><iccprofile>x</iccprofile>"
+      "<ICCProfile/></ColorMode>"
+      "<ColorMode ID='3' DefaultICCProfile='P1'><ICCProfile/><ICCProfile> p3 </ICCProfile>"
+      "<PrinterSpecificSetting> Set A </PrinterSpecificSetting>"
+      "<PrinterSpecificSetting>Set B</PrinterSpecificSetting></ColorMode>"
+      "<ColorMode ID='3'><PrinterSpecificSetting>SET a</PrinterSpecificSetting></ColorMode>"
+      "<ColorMode ID='2'/>");
+  EXPECT_EQ(read.tree,
+            Under("1,2>-1[1,2,3;>-1;];3[3,0>1;>-1;];3[>-1;>-1;];2" + std::string(kEmpty)));
+  EXPECT_EQ(read.profiles, " P3 |p1| p1|");
+  EXPECT_EQ(read.settings, "Set A");
+  EXPECT_EQ(read.dithers, "") << "a default without a list";
+}
+
+TEST(ControlTree, TakesDithersAndTheirResolutions) {
+  const std::string d63(63, 'd');
+  const ControlTree read = OnePath(
+      "<ColorMode ID='1' DefaultDither=' Floyd '><DitherList SupportAll='0'>"
+      "<Dither Name='Fast' RipResolution='720.2X360'/><Dither Name='fast' RipResolution='600'/>"
+      "<Dither Name='Fast' RipResolution='720.9x360.9'/><Dither Name='Fast' RipResolution='x9'/>"
+      "<Dither Name=' Fast'/><Dither Name='' RipResolution='1'/><Dither RipResolution='1'/>"
+      "<dither Name='no' RipResolution='1'/><Dither Name='minus' RipResolution='-1x1'/>"
+      "</DitherList><DitherList><Dither Name='second list'/></DitherList></ColorMode>"
+      "<ColorMode ID='2' DefaultDither='FLOYD'><DitherList SupportAll='1'>"
+      "<Dither Name='Fast' RipResolution='720.2x360'/><Dither Name='unlisted'/></DitherList>"
+      "</ColorMode><ColorMode ID='3'><DitherList SupportAll='-1'>"
+      "<Dither Name='" +
+      d63 + "ab' RipResolution='1'/><Dither Name='" + d63 +
+      "ac' RipResolution='1'/><Dither Name='" + d63 +
+      "' RipResolution='1'/></DitherList></ColorMode>");
+  EXPECT_EQ(read.dithers, "Floyd|Fast|fast| Fast|minus|FLOYD|" + d63 + "ab|" + d63 + "ac|" + d63);
+  EXPECT_EQ(read.tree, Under("1>-1[>-1;1,2,3,4;0,1];2>-1[>-1;>5;2];3>-1[>-1;6,7,8>-1;3,4]"));
+  EXPECT_EQ(read.records,
+            "Fast 720.200000 360.000000;fast 600.000000 600.000000;"
+            "Fast 720.200000 360.000000;" +
+                d63 + "a 1.000000 1.000000;" + d63 + " 1.000000 1.000000;");
+  ASSERT_EQ(read.owners.size(), 5U);
+  EXPECT_EQ(read.owners[0], read.owners[1]);
+  EXPECT_NE(read.owners[0], read.owners[2]);
+  EXPECT_EQ(Dump(*read.owners[2]), "2");
+}
+
+// Alone, on lists that others have filled.
+TEST(ControlTree, DitherListsAppend) {
+  const auto tree =
+      TreeOf("<DitherList><Dither Name='b' RipResolution='2'/><Dither Name='a'/></DitherList>");
+  AXMLTreeNode list;
+  ASSERT_NE(tree->getRootNode(list), 0);
+  CQDFNode dithers;
+  CQDFNode resolutions;
+  AStringArray names;
+  names.Add("a");
+  OwnedItems<DitherResolutionInfo> records;
+  for (int round = 0; round < 2; ++round) {
+    ReadDitherList(&dithers, &resolutions, tree.get(), list, names, records, " a ");
+    EXPECT_EQ(Dump(dithers) + " " + Dump(resolutions) + " " + Dump(names), "1,0 0 a|b");
+    EXPECT_EQ(records.GetSize(), 1);
+  }
+  CQDFNode other;
+  ReadDitherList(&dithers, &other, tree.get(), list, names, records, "");
+  EXPECT_EQ(Dump(dithers) + " " + Dump(other), "1,0 1");
+}
+
+TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
+  const struct {
+    const char* control;
+    const char* tree;
+  } rows[] = {
+      {"", ""},
+      {"<MediaSource_Control DefaultMediaSourceID='2x'><MediaSource "
+       "ID='ALL'/></MediaSource_Control>",
+       ">2[1,2]"},
+      {"<MediaSource_Control><MediaSource ID='9' DefaultMediaSizeID='3'><MediaSize ID='-(3)'/>"
+       "</MediaSource><MediaSource/><mediasource ID='1'/><MediaSource "
+       "ID='1'/></MediaSource_Control>",
+       "[>3[5,4];;1]"},
+      {"<MediaSource_Control><MediaSource ID='1'><MediaSize ID='3,5' MarginIDList='7,6' "
+       "DefaultMarginID='6'/><MediaSize ID='8' MarginIDList='ALL'/><MediaSize ID='4' "
+       "MarginIDList='9' DefaultMarginID='6' Default='1'/><MediaSize ID='4' MarginIDList='-'/>"
+       "<X><MediaSize ID='3'/></X></MediaSource></MediaSource_Control>",
+       "[1[3,5[7,6>6];4;4[6,7]]]"}};
+  for (const auto& row : rows) {
+    const std::string definition = "<MediaSourceList>" + Entries("1;2") +
+                                   "</MediaSourceList><MediaSizeList>" + Entries("5;4;3") +
+                                   "</MediaSizeList><MarginInfoList>" + Entries("6;7") +
+                                   "</MarginInfoList>";
+    const auto document = Load({.Definition = definition, .SourceControl = row.control});
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(Dump(*document->GetMediaSourceTreeRoot()), row.tree) << row.control;
+  }
+  const auto without = Load({.SourceControl = rows[1].control});
+  ASSERT_NE(without, nullptr);
+  EXPECT_EQ(Dump(*without->GetMediaSourceTreeRoot()), "")
+      << "no sources, so the section isn't read";
+}
+
+TEST(Trees, ReadersAnswerForNothing) {
+  APtrArray none;
+  CQDFNode root;
+  AStringArray names;
+  const auto tree = TreeOf(
+      "<a><Control_Definition DefaultInk='3'><Ink ID='ALL'/>"
+      "</Control_Definition></a>");
+  EXPECT_EQ(
+      ReadControlDefinition(nullptr, none, none, none, none, none, root, names, names, names, none),
+      0);
+  EXPECT_EQ(ReadMediaSourceControl(nullptr, none, none, none, root), 0);
+  EXPECT_EQ(ReadMediaSourceControl(tree.get(), none, none, none, root), 1);
+  EXPECT_EQ(Dump(root), "");
+  EXPECT_EQ(ReadControlDefinition(tree.get(), none, none, none, none, none, root, names, names,
+                                  names, none),
+            1);
+  EXPECT_EQ(Dump(root), ">3");
+}
+
+// The text form that the other tests make documents from is read to the tree that it names.
+TEST(Trees, AreWhatTheShortFormSays) {
+  for (const char* tree : {">2[1>11[10,11];2>12[12,10>1[1>1[1>1]]]]", ""}) {
+    const auto document = Load(
+        {.InkList = Entries("1;2"), .MediaList = Entries("10;11;12"), .Control = Control(tree)});
+    EXPECT_EQ(Dump(DocumentMembers(*document).ControlTreeRoot), tree);
+  }
+}
+
+}  // namespace
