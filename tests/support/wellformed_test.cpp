@@ -118,11 +118,11 @@ TEST(WellFormed, DocumentsAreTakenAndFaultsFound) {
   }
 }
 
-// From a block of the exact size, so that a sanitizer sees each byte read beyond the end.
-const char* ReasonAgainst(std::string_view text) {
-  const auto bytes = std::make_unique<char[]>(text.size());
+// From a block that ends with the NUL, so that a sanitizer sees each byte read beyond it.
+bool IsFaulty(std::string_view text) {
+  const auto bytes = std::make_unique<char[]>(text.size() + 1);
   text.copy(bytes.get(), text.size());
-  return FindXMLFault({bytes.get(), text.size()}).reason;
+  return ExamineXML({bytes.get(), text.size()}).fault != nullptr;
 }
 
 TEST(WellFormed, EveryTextCutShortIsRefused) {
@@ -138,7 +138,7 @@ TEST(WellFormed, EveryTextCutShortIsRefused) {
   for (std::size_t length = whole.size() + 1; length-- > 0;) {
     std::filesystem::resize_file(file, length);
     const bool taken = length >= complete;
-    ASSERT_EQ(ReasonAgainst(whole.substr(0, length)) == nullptr, taken) << length;
+    ASSERT_EQ(IsFaulty(whole.substr(0, length)), !taken) << length;
     ASSERT_EQ(LoadFile(file) != nullptr, taken) << length;
   }
 }
