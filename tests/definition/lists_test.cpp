@@ -70,7 +70,7 @@ TEST(DefinitionLists, KeepTheFirstEntryOfAnID) {
 
 // Fields of 256 characters end in zeros only when there is room for one.
 TEST(DefinitionLists, CutNamesAtTheirFields) {
-  for (const std::size_t length : {0, 255, 256, 300}) {
+  for (const std::size_t length : {0U, 255U, 256U, 300U}) {
     const std::string display(length, 'd');
     const std::string internal(length, 'i');
     const std::string names =

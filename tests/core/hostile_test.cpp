@@ -1,0 +1,181 @@
+// Documents made to hurt: long lists, deep nesting, huge texts and numbers. Each is loaded and
+// asked everything, in a time that a quadratic or exponential road doesn't hold.
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "tests/documents.h"
+
+namespace {
+
+constexpr int kMany = 100'000;
+
+std::string Repeated(int count, const std::function<std::string(int)>& piece) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += piece(i);
+  return text;
+}
+
+// Asks every question with these five ids, and answers how much came back.
+std::size_t AskAll(APMQDF& document, int id) {
+  std::vector<InkTypeInfo> inks;
+  std::vector<MediaTypeInfo> media;
+  std::vector<PrintModeInfo> printModes;
+  std::vector<ResolutionInfo> resolutions;
+  std::vector<ColorModeInfo> colorModes;
+  std::vector<MediaSourceInfo> sources;
+  std::vector<MediaSizeInfo> sizes;
+  std::vector<MarginInfo> margins;
+  std::vector<AString> names;
+  AString name;
+  int at = 0;
+  double x = 0;
+  double y = 0;
+  document.GetInkTypeList(inks, at);
+  document.GetMediaTypeList(id, media, at);
+  document.GetPrintModeList(id, id, printModes, at);
+  document.GetResolutionList(id, id, id, resolutions, at);
+  document.GetColorModeList(id, id, id, id, colorModes, at);
+  document.GetProfileList(id, id, id, id, id, names, name);
+  document.GetDitherList(id, id, id, id, id, names, name);
+  document.GetOEMInfo(id, id, id, id, id, name);
+  document.GetRipResolutionForDither(id, id, id, id, id, "d", x, y);
+  document.GetMediaSourceList(sources, at);
+  document.GetMediaSizeList(id, sizes, at);
+  document.GetMarginInfoList(id, id, margins, at);
+  return inks.size() + media.size() + printModes.size() + resolutions.size() + colorModes.size() +
+         names.size() + sources.size() + sizes.size() + margins.size();
+}
+
+// Of the processor, so that other work of the machine doesn't count.
+class Hostile : public testing::Test {
+ protected:
+  void TearDown() override { EXPECT_LT((std::clock() - start_) / CLOCKS_PER_SEC, 10); }
+
+ private:
+  std::clock_t start_ = std::clock();
+};
+
+TEST_F(Hostile, ListsOfManyEntries) {
+  const auto entries = [](const std::string& values, const std::string& alternative) {
+    return Repeated(kMany, [&](int i) {
+      return "<a><ID>" + std::to_string(i * 7) + "</ID>" + (i % 2 == 0 ? values : alternative) +
+             "</a>";
+    });
+  };
+  const std::string plain = entries("", "");
+  const std::string colorants = "<ColorantList><c/></ColorantList>";
+  const std::string definition = "<MediaSourceList>" + plain + "</MediaSourceList><MediaSizeList>" +
+                                 plain + "</MediaSizeList><MarginInfoList>" + plain +
+                                 "</MarginInfoList>";
+  const auto document =
+      Load({.InkList = plain,
+            .MediaList = entries("<DisplayName>b</DisplayName>", "<DisplayName>a</DisplayName>"),
+            .PrintModeList = plain,
+            .ResolutionList = plain,
+            .ColorModeList = entries(colorants, colorants),
+            .Definition = definition,
+            .Control = Control(">7[ALL[-(7)[ALL[ALL[ALL]]]]]"),
+            .SourceControl = SourceControl("[ALL[ALL[ALL]]]")});
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(AskAll(*document, 14), 8U * kMany - 1);
+}
+
+TEST_F(Hostile, ManyNodesNamesAndAttributes) {
+  const auto numbered = [](const std::string& before, const std::string& after) {
+    return Repeated(kMany, [&](int i) { return before + std::to_string(i) + after; });
+  };
+  const std::string list = numbered("", ",");
+  const std::string leaves = numbered("<ICCProfile>p", "</ICCProfile>") + "<DitherList>" +
+                             numbered("<Dither RipResolution='600' Name='d", "'/>") +
+                             numbered("<Dither RipResolution='600' Name='d' x='", "'/>") +
+                             "</DitherList>";
+  // Every node but the last has children that lead nowhere.
+  const auto nodes = [](const std::string& child) {
+    return Repeated(kMany, [&](int) { return "1[" + child + "];"; });
+  };
+  std::string control = Control("[" + nodes("1") + "1[" + nodes("1") + "1[1[1[" + list + "]]]]]");
+  control.insert(control.rfind("</ColorMode>"), leaves);
+  control.insert(control.find('>'), numbered(" a", "=''"));
+  const auto document =
+      Load({.Definition = "<MediaSourceList>" + Entries("1") + "</MediaSourceList>",
+            .Control = control,
+            .SourceControl = SourceControl("[" + nodes("1") + list + "]")});
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(AskAll(*document, 1), 5U + kMany + kMany);
+  std::vector<PrintModeInfo> printModes;
+  int at = 0;
+  EXPECT_EQ(document->GetPrintModeList(1, 1, printModes, at), 0) << "the first node has none";
+}
+
+TEST_F(Hostile, NestingBeyondAnyStack) {
+  for (const char* name : {"Ink", "Media", "QDF_Info", "ColorantList", "InkList"}) {
+    const std::string open = "<" + std::string(name) + " ID='1'>";
+    const std::string close = "</" + std::string(name) + ">";
+    const std::string deep =
+        Repeated(kMany, [&](int) { return open; }) + Repeated(kMany, [&](int) { return close; });
+    const auto document =
+        Load({.InkList = Entries("1", deep),
+              .Definition = deep,
+              .Control = "<Control_Definition>" + deep + "</Control_Definition>" + deep});
+    ASSERT_NE(document, nullptr) << name;
+    AskAll(*document, 1);
+  }
+  EXPECT_EQ(LoadText(Repeated(kMany, [](int) { return std::string("<a>"); })), nullptr);
+}
+
+TEST_F(Hostile, TextsOfMegabytes) {
+  const std::string longText(2'000'000, '7');
+  const std::string list = Repeated(500'000, [](int) { return std::string("1,("); });
+  std::string control =
+      Control("[" + list + "[" + longText + "[1[1[1]]]]]",
+              "<PrinterSpecificSetting>" + longText + "</PrinterSpecificSetting>" + "<ICCProfile>" +
+                  longText + "</ICCProfile><DitherList><Dither " + "Name='" + longText +
+                  "' RipResolution='" + longText + "x" + longText + "'/></DitherList>");
+  const auto document = Load({.InkList = Entries(longText + "=" + longText) + Entries("1"),
+                              .MediaList = Entries("1;2147483647"),
+                              .ResolutionList = Resolutions("1=" + longText),
+                              .Definition = "<MinMarginSize>" + longText + "</MinMarginSize>",
+                              .Control = control});
+  ASSERT_NE(document, nullptr);
+  std::vector<InkTypeInfo> inks;
+  document->GetFullInkTypeList(inks);
+  EXPECT_EQ(IDs(inks), "2147483647,1");
+  AskAll(*document, 1);
+}
+
+TEST_F(Hostile, NumbersOfEveryKind) {
+  for (const char* number : {"nan", "-inf", "1e999", "-1e308", "1e-400", "99999999999999999999",
+                             "-2147483649", "0x7fffffffffffffff", "", "-", "e", "\xFF"}) {
+    const std::string n(number);
+    const std::string entry = "<x><ID>" + n + "</ID><PCLid>" + n + "</PCLid><IsRoll>" + n +
+                              "</IsRoll><Value>" + n + "x" + n + "</Value><Size>" + n + "," + n +
+                              "</Size><ColorantList><c Angle='" + n + "' Frequency='" + n +
+                              "' IsPrint='" + n + "'><ColorDepth>" + n +
+                              "</ColorDepth></c></ColorantList></x>";
+    const std::string leaves = "<DitherList SupportAll='" + n +
+                               "'><Dither Name='d' RipResolution='" + n +
+                               "'/><Dither Name='d' RipResolution='" + n + "'/></DitherList>";
+    const auto document =
+        Load({.InkList = entry,
+              .MediaList = entry,
+              .PrintModeList = entry,
+              .ResolutionList = entry,
+              .ColorModeList = entry,
+              .Definition = "<MinMarginSize>" + n + "," + n + "</MinMarginSize>" +
+                            "<MediaSizeList>" + entry + "</MediaSizeList>" + "<MarginInfoList>" +
+                            entry + "</MarginInfoList>",
+              .Control = Control(">" + n + "[ALL>" + n + "[ALL[ALL[ALL[ALL]]]]]", leaves)});
+    ASSERT_NE(document, nullptr) << number;
+    for (const int id : {0, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+      AskAll(*document, id);
+    }
+  }
+}
+
+}  // namespace
