@@ -14,6 +14,9 @@
 
 // The parser works inside `bytes`, and the nodes of `xml` point into them: they must outlive it.
 struct AXMLTree::Document {
+  // What is wrong with the file; no reason when it was loaded.
+  AXMLFault Load(const char* path);
+
   FileBytes bytes;
   pugi::xml_document xml;
   AXMLFault fault;
@@ -95,29 +98,28 @@ AXMLTree::AXMLTree(const AString& rootName) : document_(std::make_unique<Documen
 
 AXMLTree::~AXMLTree() = default;
 
-int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
-  removeAll(0);
-  document_->fault = AXMLFault();
-  FileBytes& bytes = document_->bytes;
+AXMLFault AXMLTree::Document::Load(const char* path) {
   const char* unreadable = ReadFileBytes(path, bytes);
-  if (unreadable != nullptr) {
-    document_->fault = FileFault(unreadable);
-    return 0;
-  }
+  if (unreadable != nullptr) return FileFault(unreadable);
   const XMLFindings findings = ExamineXML(bytes.Text());
-  if (findings.fault != nullptr) {
-    document_->fault = FaultAt(bytes.Text(), findings.offset, findings.fault);
-    return 0;
-  }
-  const pugi::xml_parse_result result = document_->xml.load_buffer_inplace(
+  if (findings.fault != nullptr) return FaultAt(bytes.Text(), findings.offset, findings.fault);
+  const pugi::xml_parse_result result = xml.load_buffer_inplace(
       bytes.data.get(), bytes.size, ParseOptions(findings.splitsText), pugi::encoding_utf8);
-  if (result) return 1;
-  document_->xml.reset();
+  if (result) return AXMLFault();
+  xml.reset();
+  if (result.status == pugi::status_out_of_memory) throw std::bad_alloc();
   // The parser has written over the text, so the line is counted in a fresh copy.
   if (ReadFileBytes(path, bytes) != nullptr) bytes.size = 0;
-  document_->fault =
-      FaultAt(bytes.Text(), static_cast<std::size_t>(result.offset), result.description());
-  return 0;
+  return FaultAt(bytes.Text(), static_cast<std::size_t>(result.offset), result.description());
+}
+
+int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
+  removeAll(0);
+  document_->fault = FileFault("out of memory");  // short enough to take none itself
+  return OrOnNoMemory(0, [&] {
+    document_->fault = document_->Load(path);
+    return document_->fault.Reason.GetLength() == 0 ? 1 : 0;
+  });
 }
 
 const AXMLFault& AXMLTree::loadFault() const { return document_->fault; }
