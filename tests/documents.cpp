@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -174,6 +175,17 @@ std::string Join(const std::vector<std::string>& texts, std::string_view between
     first = false;
   }
   return joined;
+}
+
+std::vector<std::string> Split(std::string_view text) {
+  std::vector<std::string> pieces;
+  std::size_t bar = 0;
+  do {
+    bar = text.find('|');
+    pieces.emplace_back(text.substr(0, bar));
+    text.remove_prefix(std::min(pieces.back().size() + 1, text.size()));
+  } while (bar != Text::npos);
+  return pieces;
 }
 
 std::string Dump(const CQDFNode& node) {

@@ -2,6 +2,8 @@
 
 // Documents out of short texts, and their answers as short texts to compare with a literal.
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -51,6 +53,8 @@ std::unique_ptr<APMQDF> Load(const DocumentText& document);
 std::unique_ptr<AXMLTree> TreeOf(std::string_view text);
 
 std::string Join(const std::vector<std::string>& texts, std::string_view between);
+// The pieces between "|"; one piece, an empty one, of an empty text.
+std::vector<std::string> Split(std::string_view text);
 
 // "1,2>5[10;11]": the ids, behind ">" a Default that isn't 0, in brackets its children.
 std::string Dump(const CQDFNode& node);
@@ -80,5 +84,14 @@ std::vector<Record> Records(const APtrArray& list) {
   for (int i = 0; i < list.GetSize(); ++i) {
     records.push_back(*static_cast<const Record*>(list.GetAt(i)));
   }
+  return records;
+}
+
+// What a question with these ids adds to an empty vector.
+template <class Record, class Ask, class... ID>
+std::vector<Record> Asked(APMQDF& document, Ask ask, int& defaultPosition, const ID&... ids) {
+  std::vector<Record> records;
+  const int result = (document.*ask)(ids..., records, defaultPosition);
+  EXPECT_EQ(result, records.empty() ? 0 : 1);
   return records;
 }

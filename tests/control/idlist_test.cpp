@@ -30,46 +30,21 @@ std::string Parsed(const std::string& text, ADWordArray& all) {
 TEST(IDList, NamesIDs) {
   ADWordArray all = Array({1, 2, 3, 4, 5});
   const struct {
-    const char* text;
     const char* ids;
-  } rows[] = {{"ALL", "1,2,3,4,5"},
-              {" all\t", "1,2,3,4,5"},
-              {"aLl", "1,2,3,4,5"},
-              {"1,2,3", "1,2,3"},
-              {"5,1", "5,1"},
-              {"(4,5)", "4,5"},
-              {"-(1,2)", "3,4,5"},
-              {"ALL-(1,2)", "3,4,5"},
-              {"2,2,7, 3", "2,3"},
-              {"1-3", "1,2,4,5"},
-              {"-", "1,2,3,4,5"},
-              {"", ""},
-              {" , ,", ""},
-              {"0", ""},
-              // Brackets that don't pair, and text around them.
-              {"(1,2", "1,2"},
-              {"1,2)", "1,2"},
-              {")1,2(", ""},
-              {"4(1,2)3", "1,2"},
-              {"((1),2)", ""},
-              {"(1)(2)", "1"},
-              {"()", ""},
-              {"-()", "1,2,3,4,5"},
-              {")-(1", "2,3,4,5"},
-              {"(1-2)", "1,3,4,5"},
-              // More than one "-": what follows the first is the list, and "-2" no id of it.
-              {"--2", "1,2,3,4,5"},
-              {"-1,-2", "2,3,4,5"},
-              {"-ALL", "1,2,3,4,5"},
-              {"- 1 , 2 ", "3,4,5"},
-              // No number, or more than one.
-              {"1,ALL", "1"},
-              {"(ALL)", ""},
-              {"A,x,3 4,5y", "3,5"},
-              {"+1,0x2,03,1e1", "1,3"},
-              {"\v1\n,\r\n2\f", "1,2"},
-              {"4294967297", ""}};
-  for (const auto& row : rows) EXPECT_EQ(Parsed(row.text, all), row.ids) << '"' << row.text << '"';
+    const char* texts;  // each between "|"
+  } rows[] = {{"1,2,3,4,5", "ALL| all\t|aLl|-|-()|--2|-ALL|ALL-"},
+              {"", "| , ,|0|()|(ALL)|)1,2(|((1),2)|4294967297"},
+              {"1", "1|1,ALL|(1)(2)|1,x,+1y,01"},
+              {"1,2", "1,2|(1,2|1,2)|4(1,2)3|\v1\n,\r\n2\f|1.9,2e5"},
+              {"2,3", "2,2,7, 3"},
+              {"5,1", "5,1|(5,1)|x(5, 1 )|5,0x2,1"},
+              {"3,4,5", "-(1,2)|ALL-(1,2)|9-1,2|- 1 , 2 "},
+              {"2,3,4,5", "-1|)-(1|-1,-2"},
+              {"1,2,4,5", "1-3|1,2-3"},
+              {"1,3,4,5", "(1-2)"}};
+  for (const auto& row : rows) {
+    for (const std::string& text : Split(row.texts)) EXPECT_EQ(Parsed(text, all), row.ids) << text;
+  }
 }
 
 TEST(IDList, ComparesAs32Bits) {

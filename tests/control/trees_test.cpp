@@ -45,9 +45,6 @@ ControlTree OnePath(const std::string& colorModes) {
 
 std::string Under(const std::string& colorModes) { return "[1[1[1[1[" + colorModes + "]]]]]"; }
 
-// Of each colour mode the ProfileNode, DitherNode and RipResolutionNode.
-constexpr const char* kEmpty = ">-1[>-1;>-1;]";
-
 TEST(ControlTree, KeepsWhatTheListsKnow) {
   const struct {
     const char* control;
@@ -86,8 +83,7 @@ TEST(ControlTree, GivesEachColourModeThreeLeaves) {
       "<PrinterSpecificSetting>Set B</PrinterSpecificSetting></ColorMode>"
       "<ColorMode ID='3'><PrinterSpecificSetting>SET a</PrinterSpecificSetting></ColorMode>"
       "<ColorMode ID='2'/>");
-  EXPECT_EQ(read.tree,
-            Under("1,2>-1[1,2,3;>-1;];3[3,0>1;>-1;];3[>-1;>-1;];2" + std::string(kEmpty)));
+  EXPECT_EQ(read.tree, Under("1,2>-1[1,2,3;>-1;];3[3,0>1;>-1;];3[>-1;>-1;];2>-1[>-1;>-1;]"));
   EXPECT_EQ(read.profiles, " P3 |p1| p1|");
   EXPECT_EQ(read.settings, "Set A");
   EXPECT_EQ(read.dithers, "") << "a default without a list";
@@ -192,15 +188,6 @@ TEST(Trees, ReadersAnswerForNothing) {
                                   names, none),
             1);
   EXPECT_EQ(Dump(root), ">3");
-}
-
-// The text form that the other tests make documents from is read to the tree that it names.
-TEST(Trees, AreWhatTheShortFormSays) {
-  for (const char* tree : {">2[1>11[10,11];2>12[12,10>1[1>1[1>1]]]]", ""}) {
-    const auto document = Load(
-        {.InkList = Entries("1;2"), .MediaList = Entries("10;11;12"), .Control = Control(tree)});
-    EXPECT_EQ(Dump(DocumentMembers(*document).ControlTreeRoot), tree);
-  }
 }
 
 }  // namespace

@@ -26,10 +26,6 @@ class ColorModeList : public OwnedItems<ColorModeInfo> {
   }
 };
 
-std::string Colorants(const std::string& colorants) {
-  return "<m><ColorantList>" + colorants + "</ColorantList></m>";
-}
-
 TEST(ColorModes, WithoutAColorantAreDropped) {
   const ColorModeList list(
       "<m><ID>1</ID></m><m><ID>2</ID><ColorantList/></m>"
@@ -42,41 +38,39 @@ TEST(ColorModes, WithoutAColorantAreDropped) {
   EXPECT_EQ(modes.at(0).ColorantCount, 2);
 }
 
+std::string Described(const ANewColorOpt& option) {
+  AString numbers;
+  numbers.Format(" %g %g %g %d %d %d ", static_cast<double>(option.Frequency),
+                 static_cast<double>(option.Angle), option.Setting5, option.Colorant.IsSpotColor,
+                 option.Colorant.IsPrint, option.Colorant.ColorDepth);
+  return Str(option.Shape) + static_cast<const char*>(numbers) + Str(option.Colorant.InternalName) +
+         "/" + Str(option.Colorant.DisplayName);
+}
+
 TEST(ColorModes, FillWhatAColorantSays) {
   const std::string longName(70, 'n');
   const std::string longShape(130, 's');
-  const ColorModeList list(Colorants(
-      "<c/><c Shape='' Angle='' Frequency='' IsPrint='' IsSpotColor=''><ColorDepth/></c>"
-      "<c Shape='Round' Angle='30.1' Frequency='1e39' IsPrint='0' IsSpotColor=' 2x'>"
-      "<ColorDepth>8</ColorDepth><DisplayName>Cyan</DisplayName><InternalName>C</InternalName></c>"
-      "<c Shape='" +
-      longShape + "' Angle='x'><DisplayName>" + longName +
-      "</DisplayName></c><c shape='Round'><Angle>1</Angle></c>"));
-  const auto modes = Records<ColorModeInfo>(list);
+  const struct {
+    std::string colorant, described;
+  } rows[] = {
+      {"<c/>", "Diamond 55 45 0 0 1 1 /"},
+      {"<c shape='Round'><Angle>1</Angle></c>", "Diamond 55 45 0 0 1 1 /"},
+      {"<c Shape='' Angle='' Frequency='' IsPrint='' IsSpotColor=''><ColorDepth/></c>",
+       "Diamond 55 45 0 0 1 0 /"},
+      {"<c Shape='Round' Angle='30.1' Frequency='1e39' IsPrint='0' IsSpotColor=' 2x'><ColorDepth>8"
+       "</ColorDepth><DisplayName>Cyan</DisplayName><InternalName>C</InternalName></c>",
+       "Round 3.40282e+38 30.1 30.1 2 0 8 C/Cyan"},
+      {"<c Shape='" + longShape + "' Angle='x'><DisplayName>" + longName + "</DisplayName></c>",
+       longShape.substr(0, 128) + " 55 0 0 0 1 1 /" + longName.substr(0, 64)}};
+  std::string all;
+  for (const auto& row : rows) all += row.colorant;
+  const auto modes =
+      Records<ColorModeInfo>(ColorModeList("<m><ColorantList>" + all + "</ColorantList></m>"));
   ASSERT_EQ(modes.size(), 1U);
   ASSERT_EQ(modes[0].ColorantCount, 5);
-  const ANewColorOpt* options = modes[0].Colorants;
-  const ANewColorOpt plain;
-  EXPECT_EQ(options[0] == plain, 1);
-  EXPECT_EQ(options[4] == plain, 1) << "attributes are attributes, with case";
-  EXPECT_EQ(options[1].Colorant.ColorDepth, 0) << "an empty element counts, an attribute doesn't";
-  EXPECT_EQ(Str(options[1].Shape), "Diamond");
-  EXPECT_EQ(options[1].Frequency, 55.0F);
-  EXPECT_EQ(options[1].Angle, 45.0F);
-  EXPECT_EQ(options[1].Setting5, 0.0);
-  EXPECT_EQ(options[1].Colorant.IsPrint, 1);
-  EXPECT_EQ(Str(options[2].Shape), "Round");
-  EXPECT_EQ(options[2].Angle, 30.1F);
-  EXPECT_EQ(options[2].Setting5, 30.1);
-  EXPECT_EQ(options[2].Frequency, std::numeric_limits<float>::max());
-  EXPECT_EQ(options[2].Colorant.IsPrint, 0);
-  EXPECT_EQ(options[2].Colorant.IsSpotColor, 2);
-  EXPECT_EQ(options[2].Colorant.ColorDepth, 8);
-  EXPECT_EQ(Str(options[2].Colorant.DisplayName) + Str(options[2].Colorant.InternalName), "CyanC");
-  EXPECT_EQ(Str(options[3].Shape), longShape.substr(0, 128));
-  EXPECT_EQ(Str(options[3].Colorant.DisplayName), longName.substr(0, 64));
-  EXPECT_EQ(options[3].Angle, 0.0F);
-  EXPECT_EQ(options[3].Colorant.IsSpotColor, 0) << "behind a full field";
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(Described(modes[0].Colorants[i]), rows[i].described);
+  EXPECT_EQ(modes[0].Colorants[0] == ANewColorOpt(), 1);
+  EXPECT_EQ(modes[0].Colorants[3].Setting5, 30.1) << "with all its digits";
 }
 
 TEST(ColorModes, AreCopiedWithTheirColorants) {

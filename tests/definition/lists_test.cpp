@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -68,40 +69,43 @@ TEST(DefinitionLists, KeepTheFirstEntryOfAnID) {
   CheckList<MediaTypeInfo>("MediaList", ReadMediaList);
 }
 
+template <class Record>
+Record First(const APtrArray& list) {
+  return Records<Record>(list).at(0);
+}
+
 // Fields of 256 characters end in zeros only when there is room for one.
 TEST(DefinitionLists, CutNamesAtTheirFields) {
   for (const std::size_t length : {0U, 255U, 256U, 300U}) {
-    const std::string display(length, 'd');
-    const std::string internal(length, 'i');
-    const std::string names =
-        Element("InternalName", internal) + Element("DisplayName", display) + "<ID>1</ID>";
-    const std::string more = names + "<ColorantList><c/></ColorantList>";
-    const auto document = Load({.InkList = Element("x", names),
-                                .MediaList = Element("x", names),
-                                .PrintModeList = Element("x", names),
-                                .ResolutionList = Element("x", names),
-                                .ColorModeList = Element("x", more)});
+    const std::string entry = Element("x", Element("InternalName", std::string(length, 'i')) +
+                                               Element("DisplayName", std::string(length, 'd')) +
+                                               "<ID>1</ID><ColorantList><c/></ColorantList>");
+    const auto document = Load({.InkList = entry,
+                                .MediaList = entry,
+                                .PrintModeList = entry,
+                                .ResolutionList = entry,
+                                .ColorModeList = entry});
     ASSERT_NE(document, nullptr);
     const DocumentMembers members(*document);
-    const auto ink = Records<InkTypeInfo>(members.InkList).at(0);
-    const auto media = Records<MediaTypeInfo>(members.MediaList).at(0);
-    const auto printMode = Records<PrintModeInfo>(members.PrintModeList).at(0);
-    const auto resolution = Records<ResolutionInfo>(members.ResolutionList).at(0);
-    const auto colorMode = Records<ColorModeInfo>(members.ColorModeList).at(0);
-    const std::string cut = display.substr(0, 256);
-    for (const std::string& each :
-         {Str(ink.DisplayName), Str(media.DisplayName), Str(media.UnlocalizedName),
-          Str(printMode.DisplayName), Str(printMode.UnlocalizedName), Str(resolution.DisplayName),
-          Str(colorMode.DisplayName)}) {
-      EXPECT_EQ(each, cut);
-    }
-    for (const std::string& each : {Str(ink.InternalName), Str(media.InternalName),
-                                    Str(printMode.InternalName), Str(colorMode.InternalName)}) {
-      EXPECT_EQ(each, internal.substr(0, 256));
-    }
+    const auto ink = First<InkTypeInfo>(members.InkList);
+    const auto media = First<MediaTypeInfo>(members.MediaList);
+    const auto mode = First<PrintModeInfo>(members.PrintModeList);
+    const auto resolution = First<ResolutionInfo>(members.ResolutionList);
+    const auto color = First<ColorModeInfo>(members.ColorModeList);
+    const std::string display(std::min<std::size_t>(length, 256), 'd');
+    const std::string internal(std::min<std::size_t>(length, 256), 'i');
+    EXPECT_EQ(Join({Str(ink.DisplayName), Str(media.DisplayName), Str(media.UnlocalizedName),
+                    Str(mode.DisplayName), Str(mode.UnlocalizedName), Str(resolution.DisplayName),
+                    Str(color.DisplayName)},
+                   " "),
+              Join(std::vector<std::string>(7, display), " "));
+    EXPECT_EQ(Join({Str(ink.InternalName), Str(media.InternalName), Str(mode.InternalName),
+                    Str(color.InternalName)},
+                   " "),
+              Join(std::vector<std::string>(4, internal), " "));
     EXPECT_EQ(ink.DisplayName[255] == '\0', length < 256);
     EXPECT_EQ(media.IsCustomizableMedia, 0);
-    EXPECT_EQ(colorMode.ColorantCount, 1);
+    EXPECT_EQ(color.ColorantCount, 1);
   }
 }
 

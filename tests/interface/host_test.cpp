@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <memory>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
@@ -35,59 +33,55 @@ TEST(Host, FindsTheFunctionsByTheirPlainNames) {
   EXPECT_EQ(Address(&NamedIccProfileIsInList), Address(&PMIccProfileIsInList));
 }
 
-template <class Record, class Field>
-std::size_t Offset(Field Record::*field) {
-  static const Record record{};
-  return static_cast<std::size_t>(reinterpret_cast<const char*>(&(record.*field)) -
-                                  reinterpret_cast<const char*>(&record));
+// The size of a record and the places of these fields in it.
+template <class Record, class... Field>
+std::string Layout(Field Record::*... fields) {
+  const Record record{};
+  const auto place = [&](auto field) {
+    return std::to_string(reinterpret_cast<const char*>(&(record.*field)) -
+                          reinterpret_cast<const char*>(&record));
+  };
+  return std::to_string(sizeof record) + ":" + ((" " + place(fields)) + ...);
 }
 
 TEST(Host, SeesRecordsOfAFixedLayout) {
-  using Offsets = std::vector<std::size_t>;
-  const auto named = [](auto record) {
-    using Record = decltype(record);
-    return Offsets{sizeof(Record), Offset(&Record::ID), Offset(&Record::DisplayName),
-                   Offset(&Record::InternalName)};
-  };
-  EXPECT_EQ(named(InkTypeInfo{}), (Offsets{516, 0, 4, 260}));
-  EXPECT_EQ(named(MediaSourceInfo{}), (Offsets{516, 0, 4, 260}));
-  EXPECT_EQ(named(PrintModeInfo{}), (Offsets{772, 0, 4, 260}));
-  EXPECT_EQ(named(MediaTypeInfo{}), (Offsets{776, 0, 4, 260}));
-  EXPECT_EQ(named(MediaSizeInfo{}), (Offsets{544, 0, 12, 268}));
-  EXPECT_EQ(named(MarginInfo{}), (Offsets{552, 0, 4, 260}));
-  EXPECT_EQ(named(ColorModeInfo{}), (Offsets{528, 0, 4, 260}));
-  EXPECT_EQ(Offset(&PrintModeInfo::UnlocalizedName), 516U);
-  EXPECT_EQ((Offsets{Offset(&MediaTypeInfo::IsCustomizableMedia),
-                     Offset(&MediaTypeInfo::UnlocalizedName)}),
-            (Offsets{516, 520}));
-  EXPECT_EQ((Offsets{sizeof(ResolutionInfo), Offset(&ResolutionInfo::XResolution),
-                     Offset(&ResolutionInfo::YResolution), Offset(&ResolutionInfo::ID),
-                     Offset(&ResolutionInfo::DisplayName)}),
-            (Offsets{280, 0, 8, 16, 20}));
-  EXPECT_EQ(
-      (Offsets{Offset(&MediaSizeInfo::PCLid), Offset(&MediaSizeInfo::IsRoll),
-               Offset(&MediaSizeInfo::SecondDimension), Offset(&MediaSizeInfo::FirstDimension)}),
-      (Offsets{4, 8, 528, 536}));
-  EXPECT_EQ((Offsets{Offset(&MarginInfo::ThirdMargin), Offset(&MarginInfo::FourthMargin),
-                     Offset(&MarginInfo::FirstMargin), Offset(&MarginInfo::SecondMargin)}),
-            (Offsets{520, 528, 536, 544}));
-  EXPECT_EQ((Offsets{Offset(&ColorModeInfo::ColorantCount), Offset(&ColorModeInfo::Colorants)}),
-            (Offsets{516, 520}));
+  using Ink = InkTypeInfo;
+  using Source = MediaSourceInfo;
+  using Mode = PrintModeInfo;
+  using Media = MediaTypeInfo;
+  using Resolution = ResolutionInfo;
+  using Size = MediaSizeInfo;
+  using Margin = MarginInfo;
+  using Color = ColorModeInfo;
   using Option = ANewColorOpt;
-  EXPECT_EQ(
-      (Offsets{Offset(&Option::Shape), Offset(&Option::Frequency), Offset(&Option::Angle),
-               Offset(&Option::Setting4), Offset(&Option::Setting5), Offset(&Option::Setting6),
-               Offset(&Option::Setting0), Offset(&Option::Setting7), Offset(&Option::Setting8),
-               Offset(&Option::Setting9), Offset(&Option::Setting10)}),
-      (Offsets{0, 128, 132, 136, 144, 152, 156, 160, 164, 168, 172}));
-  EXPECT_LT(Offset(&Option::CurveValues), Offset(&Option::CurveFlags));
-  EXPECT_LT(Offset(&Option::CurveFlags), Offset(&Option::Colorant));
-  EXPECT_EQ((Offsets{sizeof(ColorantInfo), Offset(&ColorantInfo::InternalName),
-                     Offset(&ColorantInfo::DisplayName), Offset(&ColorantInfo::IsSpotColor),
-                     Offset(&ColorantInfo::IsPrint), Offset(&ColorantInfo::ColorDepth),
-                     Offset(&ColorantInfo::ColorantSetting5)}),
-            (Offsets{144, 0, 64, 128, 132, 136, 140}));
-  EXPECT_TRUE((std::is_same_v<decltype(ColorantInfo::ColorantSetting5), unsigned int>));
+  using Colorant = ColorantInfo;
+  EXPECT_EQ(Layout(&Ink::ID, &Ink::DisplayName, &Ink::InternalName), "516: 0 4 260");
+  EXPECT_EQ(Layout(&Source::ID, &Source::DisplayName, &Source::InternalName), "516: 0 4 260");
+  EXPECT_EQ(Layout(&Mode::ID, &Mode::DisplayName, &Mode::InternalName, &Mode::UnlocalizedName),
+            "772: 0 4 260 516");
+  EXPECT_EQ(Layout(&Media::ID, &Media::DisplayName, &Media::InternalName,
+                   &Media::IsCustomizableMedia, &Media::UnlocalizedName),
+            "776: 0 4 260 516 520");
+  EXPECT_EQ(Layout(&Resolution::XResolution, &Resolution::YResolution, &Resolution::ID,
+                   &Resolution::DisplayName),
+            "280: 0 8 16 20");
+  EXPECT_EQ(Layout(&Size::ID, &Size::PCLid, &Size::IsRoll, &Size::DisplayName, &Size::InternalName,
+                   &Size::SecondDimension, &Size::FirstDimension),
+            "544: 0 4 8 12 268 528 536");
+  EXPECT_EQ(Layout(&Margin::ID, &Margin::DisplayName, &Margin::InternalName, &Margin::ThirdMargin,
+                   &Margin::FourthMargin, &Margin::FirstMargin, &Margin::SecondMargin),
+            "552: 0 4 260 520 528 536 544");
+  EXPECT_EQ(Layout(&Color::ID, &Color::DisplayName, &Color::InternalName, &Color::ColorantCount,
+                   &Color::Colorants),
+            "528: 0 4 260 516 520");
+  EXPECT_EQ(Layout(&Option::Shape, &Option::Frequency, &Option::Angle, &Option::Setting4,
+                   &Option::Setting5, &Option::Setting6, &Option::Setting0, &Option::Setting7,
+                   &Option::Setting8, &Option::Setting9, &Option::Setting10, &Option::CurveValues,
+                   &Option::CurveFlags, &Option::Colorant),
+            "576: 0 128 132 136 144 152 156 160 164 168 172 176 344 428");
+  EXPECT_EQ(Layout(&Colorant::InternalName, &Colorant::DisplayName, &Colorant::IsSpotColor,
+                   &Colorant::IsPrint, &Colorant::ColorDepth, &Colorant::ColorantSetting5),
+            "144: 0 64 128 132 136 140");
 }
 
 TEST(Host, GetsNothingForWhatIsNoDocument) {
@@ -126,26 +120,17 @@ TEST(Host, NarrowsAJobAndKeepsTheAnswers) {
   auto document = LoadFile(std::string(kExamples) + "/OutputDrivers/plot36.qdf");
   ASSERT_NE(document, nullptr);
   APMQDF& plot36 = *document;
-  std::vector<InkTypeInfo> inks;
-  std::vector<MediaTypeInfo> media;
-  std::vector<PrintModeInfo> printModes;
-  std::vector<ResolutionInfo> resolutions;
-  std::vector<ColorModeInfo> colorModes;
-  int ink = -1;
-  int medium = -1;
-  int printMode = -1;
-  int resolution = -1;
-  int colorMode = -1;
-  EXPECT_EQ(plot36.GetInkTypeList(inks, ink), 1);
-  EXPECT_EQ(plot36.GetMediaTypeList(1, media, medium), 1);
-  EXPECT_EQ(plot36.GetPrintModeList(1, 1, printModes, printMode), 1);
-  EXPECT_EQ(plot36.GetResolutionList(1, 1, 2, resolutions, resolution), 1);
-  EXPECT_EQ(plot36.GetColorModeList(1, 1, 2, 1, colorModes, colorMode), 1);
-  EXPECT_EQ(IDs(inks) + " " + IDs(media) + " " + IDs(printModes) + " " + IDs(resolutions) + " " +
-                IDs(colorModes),
+  int at[5] = {};
+  const auto inks = Asked<InkTypeInfo>(plot36, &APMQDF::GetInkTypeList, at[0]);
+  const auto media = Asked<MediaTypeInfo>(plot36, &APMQDF::GetMediaTypeList, at[1], 1);
+  const auto modes = Asked<PrintModeInfo>(plot36, &APMQDF::GetPrintModeList, at[2], 1, 1);
+  const auto resolutions =
+      Asked<ResolutionInfo>(plot36, &APMQDF::GetResolutionList, at[3], 1, 1, 2);
+  const auto colorModes =
+      Asked<ColorModeInfo>(plot36, &APMQDF::GetColorModeList, at[4], 1, 1, 2, 1);
+  EXPECT_EQ(Join({IDs(inks), IDs(media), IDs(modes), IDs(resolutions), IDs(colorModes)}, " "),
             "1 2,4,1,3,5 1,2 1 1,2");
-  EXPECT_EQ((std::vector<int>{ink, medium, printMode, resolution, colorMode}),
-            (std::vector<int>{0, 2, 1, 0, 0}));
+  EXPECT_EQ(std::vector<int>(at, at + 5), (std::vector<int>{0, 2, 1, 0, 0}));
 
   std::vector<AString> profiles;
   std::vector<AString> dithers;
@@ -155,34 +140,29 @@ TEST(Host, NarrowsAJobAndKeepsTheAnswers) {
   double x = 0;
   double y = 0;
   EXPECT_EQ(plot36.GetProfileList(1, 1, 2, 1, 2, profiles, profile), 1);
-  EXPECT_EQ(Dump(profiles), "plot36 Plain Standard Gray Scale.icc");
-  EXPECT_EQ(profile, profiles.at(0));
   EXPECT_EQ(plot36.GetDitherList(1, 1, 2, 1, 2, dithers, dither), 1);
-  EXPECT_EQ(dithers.size(), 11U);
-  EXPECT_EQ(dither, "EvenTone");
   EXPECT_EQ(plot36.GetRipResolutionForDither(1, 1, 2, 1, 2, "Floyd", x, y), 1);
-  EXPECT_EQ(x, 300.0);
-  EXPECT_EQ(y, 300.0);
   EXPECT_EQ(plot36.GetOEMInfo(1, 1, 2, 1, 2, text), 1);
-  EXPECT_EQ(text, "MediaType=Plain;Quality=Standard;InkType=Gray Scale");
 
   document.reset();
   EXPECT_EQ(Str(media.at(2).DisplayName), "Plain");
   EXPECT_EQ(Str(colorModes.at(0).Colorants[3].Colorant.InternalName), "Black");
   EXPECT_EQ(Dump(profiles), "plot36 Plain Standard Gray Scale.icc");
+  EXPECT_EQ(profile, profiles.at(0));
+  EXPECT_EQ(dithers.size(), 11U);
+  EXPECT_EQ(dither, "EvenTone");
+  EXPECT_EQ(x + y, 600.0);
+  EXPECT_EQ(text, "MediaType=Plain;Quality=Standard;InkType=Gray Scale");
 }
 
 TEST(Host, AsksForMediaSourcesSizesAndMargins) {
   const auto document = LoadFile(std::string(kExamples) + "/OutputDrivers/dyesub6.qdf");
   ASSERT_NE(document, nullptr);
-  std::vector<MediaSourceInfo> sources;
-  std::vector<MediaSizeInfo> sizes;
-  std::vector<MarginInfo> margins;
-  int position = -1;
-  EXPECT_EQ(document->GetMediaSourceList(sources, position), 1);
-  EXPECT_EQ(document->GetMediaSizeList(1, sizes, position), 1);
-  EXPECT_EQ(document->GetMarginInfoList(1, 7, margins, position), 1);
-  EXPECT_EQ(IDs(sources) + " " + IDs(sizes) + " " + IDs(margins), "1 1,2,3,4,5,6,7,8,9,10 2");
+  int at = 0;
+  const auto sources = Asked<MediaSourceInfo>(*document, &APMQDF::GetMediaSourceList, at);
+  const auto sizes = Asked<MediaSizeInfo>(*document, &APMQDF::GetMediaSizeList, at, 1);
+  const auto margins = Asked<MarginInfo>(*document, &APMQDF::GetMarginInfoList, at, 1, 7);
+  EXPECT_EQ(Join({IDs(sources), IDs(sizes), IDs(margins)}, " "), "1 1,2,3,4,5,6,7,8,9,10 2");
   EXPECT_EQ(sizes.at(4).SecondDimension, 513.12);
   EXPECT_EQ(margins.at(0).ThirdMargin, 9.12);
   double limits[4] = {};

@@ -71,23 +71,4 @@ TEST(VirtualOperations, EachStandsInItsSlot) {
   for (std::size_t i = 0; i < slots.size(); ++i) EXPECT_EQ(slots[i], i + 2) << "row " << i;
 }
 
-// The table as another language sees it: functions in a row.
-TEST(VirtualOperations, ALoadedObjectIsCalledThroughItsTable) {
-  const std::string path = QDF_EXAMPLES "/OutputDrivers/dyesub6.qdf";
-  AFilePath file(path.c_str());
-  APMQDF* document = nullptr;
-  PMGetQDFInterface(file, &document);
-  ASSERT_NE(document, nullptr);
-  void** table = *reinterpret_cast<void***>(document);
-  const auto getInks =
-      reinterpret_cast<int (*)(APMQDF*, std::vector<InkTypeInfo>&, int&)>(table[5]);
-  std::vector<InkTypeInfo> inks;
-  int position = -1;
-  EXPECT_EQ(getInks(document, inks, position), 1);
-  EXPECT_EQ(inks.size(), 1U);
-  EXPECT_EQ(position, 0);
-  const auto destroy = reinterpret_cast<void (*)(APMQDF*)>(table[1]);
-  destroy(document);
-}
-
 }  // namespace

@@ -9,54 +9,41 @@
 
 namespace {
 
-// The answer to the ids, as "10,12@1": the records' ids and the default position; "none" for 0.
-template <class Record, class Ask>
-std::string Answer(Ask ask) {
-  std::vector<Record> records;
+// The answer to the ids, as "10,12@1": the records' ids and the default position; "@0" for none.
+template <class Record, class Ask, class... ID>
+std::string Answer(APMQDF& document, Ask ask, const ID&... ids) {
   int position = 99;
-  const int result = ask(records, position);
-  EXPECT_EQ(result, records.empty() ? 0 : 1);
-  const std::string at = "@" + std::to_string(position);
-  return records.empty() ? "none" + at : IDs(records) + at;
+  const std::string records = IDs(Asked<Record>(document, ask, position, ids...));
+  return records + "@" + std::to_string(position);
 }
 
 // What may follow 0 to 4 ids of the control tree.
 std::string Next(APMQDF& document, const std::vector<int>& ids) {
+  using D = APMQDF;
   switch (ids.size()) {
     case 0:
-      return Answer<InkTypeInfo>(
-          [&](auto& records, int& at) { return document.GetInkTypeList(records, at); });
+      return Answer<InkTypeInfo>(document, &D::GetInkTypeList);
     case 1:
-      return Answer<MediaTypeInfo>(
-          [&](auto& records, int& at) { return document.GetMediaTypeList(ids[0], records, at); });
+      return Answer<MediaTypeInfo>(document, &D::GetMediaTypeList, ids[0]);
     case 2:
-      return Answer<PrintModeInfo>([&](auto& records, int& at) {
-        return document.GetPrintModeList(ids[0], ids[1], records, at);
-      });
+      return Answer<PrintModeInfo>(document, &D::GetPrintModeList, ids[0], ids[1]);
     case 3:
-      return Answer<ResolutionInfo>([&](auto& records, int& at) {
-        return document.GetResolutionList(ids[0], ids[1], ids[2], records, at);
-      });
+      return Answer<ResolutionInfo>(document, &D::GetResolutionList, ids[0], ids[1], ids[2]);
     default:
-      return Answer<ColorModeInfo>([&](auto& records, int& at) {
-        return document.GetColorModeList(ids[0], ids[1], ids[2], ids[3], records, at);
-      });
+      return Answer<ColorModeInfo>(document, &D::GetColorModeList, ids[0], ids[1], ids[2], ids[3]);
   }
 }
 
 // And of the media source tree.
 std::string NextSource(APMQDF& document, const std::vector<int>& ids) {
+  using D = APMQDF;
   switch (ids.size()) {
     case 0:
-      return Answer<MediaSourceInfo>(
-          [&](auto& records, int& at) { return document.GetMediaSourceList(records, at); });
+      return Answer<MediaSourceInfo>(document, &D::GetMediaSourceList);
     case 1:
-      return Answer<MediaSizeInfo>(
-          [&](auto& records, int& at) { return document.GetMediaSizeList(ids[0], records, at); });
+      return Answer<MediaSizeInfo>(document, &D::GetMediaSizeList, ids[0]);
     default:
-      return Answer<MarginInfo>([&](auto& records, int& at) {
-        return document.GetMarginInfoList(ids[0], ids[1], records, at);
-      });
+      return Answer<MarginInfo>(document, &D::GetMarginInfoList, ids[0], ids[1]);
   }
 }
 
@@ -69,30 +56,29 @@ TEST(Narrowing, FollowsTheControlTree) {
   const struct {
     const char* tree;
     std::vector<Question> questions;
-  } rows[] = {
-      {">2[1>11[10,11];2>12[12,10>20[20];10,13>21[21]]]",
-       {{{}, "1,2,3@1"},
-        {{1}, "10,11@1"},
-        {{2}, "10,12,13@1"},
-        {{3}, "none@0"},
-        {{2, 10}, "20@0"},
-        {{2, 13}, "21@0"},
-        {{1, 10}, "none@0"},
-        {{1, 12}, "none@0"}}},
-      // One ink in several nodes: the first answers, but a path that ends is left again.
-      {"[1,2>10[11];2>13[12>21[20,21>3[3>2[1];1,2>2[2,1]]];13[20]];2[11[21[3[1]]];13[21]]]",
-       {{{2}, "11@0"},
-        {{2, 12}, "20,21@1"},
-        {{2, 11}, "none@0"},
-        {{2, 13}, "20@0"},
-        {{2, 12, 21}, "3,1,2@0"},
-        {{2, 11, 21}, "3@0"},
-        {{2, 12, 20, 2}, "1,2@1"},
-        {{2, 12, 20, 3}, "1@0"},
-        {{2, 11, 21, 3}, "1@0"}}},
-      // Defaults that aren't on offer, and ids that are none.
-      {">9[1>13[10,11]]", {{{}, "1,2,3@0"}, {{1}, "10,11@0"}, {{0}, "none@0"}, {{-1}, "none@0"}}},
-      {"", {{{}, "1,2,3@0"}, {{1}, "none@0"}, {{1, 10, 20, 3}, "none@0"}}}};
+  } rows[] = {{">2[1>11[10,11];2>12[12,10>20[20];10,13>21[21]]]",
+               {{{}, "1,2,3@1"},
+                {{1}, "10,11@1"},
+                {{2}, "10,12,13@1"},
+                {{3}, "@0"},
+                {{2, 10}, "20@0"},
+                {{2, 13}, "21@0"},
+                {{1, 10}, "@0"},
+                {{1, 12}, "@0"}}},
+              // One ink in several nodes: the first answers, but a path that ends is left again.
+              {"[1,2>10[11];2>13[12>21[20,21>3[3>2[1];1,2>2[2,1]]];13[20]];2[11[21[3[1]]];13[21]]]",
+               {{{2}, "11@0"},
+                {{2, 12}, "20,21@1"},
+                {{2, 11}, "@0"},
+                {{2, 13}, "20@0"},
+                {{2, 12, 21}, "3,1,2@0"},
+                {{2, 11, 21}, "3@0"},
+                {{2, 12, 20, 2}, "1,2@1"},
+                {{2, 12, 20, 3}, "1@0"},
+                {{2, 11, 21, 3}, "1@0"}}},
+              // Defaults that aren't on offer, and ids that are none.
+              {">9[1>13[10,11]]", {{{}, "1,2,3@0"}, {{1}, "10,11@0"}, {{0}, "@0"}, {{-1}, "@0"}}},
+              {"", {{{}, "1,2,3@0"}, {{1}, "@0"}, {{1, 10, 20, 3}, "@0"}}}};
   for (const auto& row : rows) {
     const auto document = Load({.InkList = Entries("1;2;3"),
                                 .MediaList = Entries("10;11;12;13"),
@@ -114,19 +100,19 @@ TEST(Narrowing, FollowsTheSourceTreeWithoutGoingBack) {
   } rows[] = {{">2[1,2>30[30,31[40,41>41];32]]",
                {{{}, "1,2@1"},
                 {{2}, "32,31,30@2"},
-                {{3}, "none@0"},
+                {{3}, "@0"},
                 {{1, 31}, "40,41@1"},
-                {{1, 32}, "none@0"},
-                {{1, 33}, "none@0"}}},
+                {{1, 32}, "@0"},
+                {{1, 33}, "@0"}}},
               {">9[2[30[40];30,31[41]];3,2>32[31[40]];1]",
                {{{}, "1,2,3@0"},
                 {{2}, "31,30@0"},
                 {{2, 30}, "40@0"},
                 {{2, 31}, "41@0"},
                 {{3, 31}, "40@0"},
-                {{2, 32}, "none@0"},
-                {{1}, "none@0"}}},
-              {"", {{{}, "none@0"}, {{1}, "none@0"}, {{1, 30}, "none@0"}}}};
+                {{2, 32}, "@0"},
+                {{1}, "@0"}}},
+              {"", {{{}, "@0"}, {{1}, "@0"}, {{1, 30}, "@0"}}}};
   const std::string definition = "<MediaSourceList>" + Entries("1;2;3") +
                                  "</MediaSourceList><MediaSizeList>" + Entries("32;31;30") +
                                  "</MediaSizeList><MarginInfoList>" + Entries("40;41") +

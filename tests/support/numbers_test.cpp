@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <clocale>
 #include <cmath>
 #include <cstdio>
@@ -15,6 +16,7 @@
 #include <vector>
 
 #include "qdf/definition/resolutionvalue.h"
+#include "tests/documents.h"
 
 namespace {
 
@@ -42,93 +44,33 @@ bool Same(double a, double b) {
   return (std::isnan(a) && std::isnan(b)) || std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-const char* const kTexts[] = {"",
-                              " ",
-                              "0",
-                              "-0",
-                              "7",
-                              "720",
-                              "600 dpi",
-                              "600,5",
-                              "0.5",
-                              ".5",
-                              "5.",
-                              "-.5e1x",
-                              "1e",
-                              "1e+",
-                              "1e5",
-                              "1E-3",
-                              "0x10",
-                              "0x",
-                              "0x1p3",
-                              "0X.8",
-                              "inf",
-                              "-Infinity",
-                              "nan",
-                              "NAN(1)",
-                              "+3",
-                              "+-3",
-                              "--3",
-                              "\t\n\v\f\r 8",
-                              "\xA0 8",
-                              "abc",
-                              "12abc",
-                              "e5",
-                              ".",
-                              "-",
-                              "1e999",
-                              "-1e999",
-                              "1e-999",
-                              "123456789012345",
-                              "1234567890123456",
-                              "9007199254740993",
-                              "00000000000000000000012",
-                              "123456789012345.5",
-                              "4.9e-324",
-                              "1.7976931348623157e308",
-                              "1_000",
-                              "1\n2"};
-
-TEST(Numbers, AreWhatTheCLibraryReads) {
-  for (const char* text : kTexts) {
-    EXPECT_TRUE(Same(ReadDouble(text), std::strtod(text, nullptr))) << '"' << text << '"';
-  }
-  const std::string digits(100'000, '7');
-  EXPECT_EQ(ReadDouble(digits.c_str()), kInfinity);
-  EXPECT_EQ(ReadInt(digits.c_str()), kMax);
+const std::vector<std::string>& Texts() {
+  static const std::vector<std::string> texts = Split(
+      "| |0|-0|7|720|600 dpi|600,5|0.5|.5|5.|-.5e1x|1e|1e+|1e5|1E-3|0x10|0x|0x1p3|0X.8|inf|"
+      "-Infinity|nan|NAN(1)|+3|+-3|--3|- 7|-12.9|007|\t\n\v\f\r 8|\xA0 "
+      "8|abc|12abc|e5|.|-|1_000|1\n2|"
+      "1e999|-1e999|1e-999|123456789012345|1234567890123456|9007199254740993|123456789012345.5|"
+      "00000000000000000000012|4.9e-324|1.7976931348623157e308|2147483647|2147483648|-2147483648|"
+      "-2147483649|99999999999999999999|-99999999999999999999");
+  return texts;
 }
 
-TEST(Numbers, WholeOnesSaturate) {
-  const struct {
-    const char* text;
-    int value;
-  } rows[] = {{"", 0},
-              {"abc", 0},
-              {"12abc", 12},
-              {"-12.9", -12},
-              {" \t\n\v\f\r+7", 7},
-              {"+-7", 0},
-              {"- 7", 0},
-              {"007", 7},
-              {"0x10", 0},
-              {"1e3", 1},
-              {"2147483647", kMax},
-              {"2147483648", kMax},
-              {"-2147483648", kMin},
-              {"-2147483649", kMin},
-              {"99999999999999999999", kMax},
-              {"-99999999999999999999", kMin}};
-  for (const auto& row : rows) EXPECT_EQ(ReadInt(row.text), row.value) << row.text;
+TEST(Numbers, AreWhatTheCLibraryReads) {
+  for (const std::string& text : Texts()) {
+    EXPECT_TRUE(Same(ReadDouble(text), std::strtod(text.c_str(), nullptr))) << '"' << text << '"';
+    const long whole = std::strtol(text.c_str(), nullptr, 10);
+    EXPECT_EQ(ReadInt(text.c_str()), std::clamp<long>(whole, kMin, kMax)) << '"' << text << '"';
+  }
+  const std::string digits(100'000, '7');
+  EXPECT_EQ(ReadDouble(digits), kInfinity);
+  EXPECT_EQ(ReadInt(digits.c_str()), kMax);
 }
 
 // Against one call of sscanf, as the forms of these values are told.
 TEST(Numbers, AreScannedBetweenBlanksAndCommas) {
-  const char* const texts[] = {"",        "1,2,3,4",    "1 2 3 4",    " 1 ,\t2,,3\n4 5",
-                               "8.5,11",  "1",          "1,x,3,4",    "1e,2,3,4",
-                               "1e2e3 4", "1.5.5 6",    "0x10,0x1p3", "inf nan -inf 1",
-                               "1-2-3-4", "1e+ 2",      ".,1",        "-,1",
-                               "1;2",     "nan(1) 2 3", "infin 1",    "1e999,-1e999"};
-  for (const char* text : texts) {
+  for (const std::string& text : Split(
+           "|1,2,3,4|1 2 3 4| 1 ,\t2,,3\n4 5|8.5,11|1|1,x,3,4|1e,2,3,4|1e2e3 4|1.5.5 6|0x10,0x1p3|"
+           "inf nan -inf 1|1-2-3-4|1e+ 2|.,1|-,1|1;2|nan(1) 2 3|infin 1|1e999,-1e999")) {
     std::string blanks(text);
     for (char& c : blanks) c = c == ',' ? ' ' : c;
     double expected[4] = {90, 91, 92, 93};
@@ -136,7 +78,7 @@ TEST(Numbers, AreScannedBetweenBlanksAndCommas) {
     EXPECT_GE(std::sscanf(blanks.c_str(), "%lf %lf %lf %lf", &expected[0], &expected[1],
                           &expected[2], &expected[3]),
               -1);
-    ScanDoubles(text, std::array{&got[0], &got[1], &got[2], &got[3]});
+    ScanDoubles(text.c_str(), std::array{&got[0], &got[1], &got[2], &got[3]});
     for (int i = 0; i < 4; ++i) EXPECT_TRUE(Same(got[i], expected[i])) << text << " at " << i;
   }
 }
@@ -145,19 +87,13 @@ TEST(Numbers, OfAResolutionStandAroundAnX) {
   const struct {
     const char* text;
     double x, y;
-  } rows[] = {{"720", 720, 720},
-              {"720x360", 720, 360},
-              {"720X360", 720, 360},
-              {"720x", 720, 0},
-              {"x360", 0, 360},
+  } rows[] = {{"", 0, 0},
               {"600 dpi", 600, 600},
-              {"", 0, 0},
-              {"600.5x300.25", 600.5, 300.25},
+              {"720x360.5", 720, 360.5},
+              {"720X", 720, 0},
+              {"x360", 0, 360},
               {" 1 x 2 x 3", 1, 2},
               {"0x10", 0, 10},
-              {"max 600", 0, 600},
-              {"1e2x1E2", 100, 100},
-              {"-1x-2", -1, -2},
               {"infxnan", kInfinity, kNaN}};
   for (const auto& row : rows) {
     double x = 9;
@@ -179,19 +115,18 @@ TEST(Numbers, AreCutWithoutLeavingTheirType) {
   EXPECT_EQ(NarrowToFloat(0.1), 0.1F);
   EXPECT_EQ(NarrowToFloat(1e300), kLargest);
   EXPECT_EQ(NarrowToFloat(-1e39), -kLargest);
-  EXPECT_EQ(NarrowToFloat(3.4028235e38), kLargest);
   EXPECT_TRUE(std::isinf(NarrowToFloat(kInfinity)));
   EXPECT_TRUE(std::isnan(NarrowToFloat(kNaN)));
 }
 
 TEST(Numbers, DontFollowTheLocaleOfTheHost) {
   std::vector<double> expected;
-  for (const char* text : kTexts) expected.push_back(ReadDouble(text));
+  for (const std::string& text : Texts()) expected.push_back(ReadDouble(text));
   const DecimalComma locale;
   if (!locale.Made()) GTEST_SKIP() << "no locale de_DE.UTF-8; scripts/setup makes it";
   ASSERT_EQ(std::strtod("0.5", nullptr), 0.0) << "this locale's decimal sign is a point";
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_TRUE(Same(ReadDouble(kTexts[i]), expected[i])) << kTexts[i];
+    EXPECT_TRUE(Same(ReadDouble(Texts()[i]), expected[i])) << Texts()[i];
   }
   double x = 0;
   double y = 0;
