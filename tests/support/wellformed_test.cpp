@@ -22,7 +22,8 @@ constexpr std::string_view kDocuments =
     "<a></a >\n<!----> |<!DOCTYPE a [<!ELEMENT a (#PCDATA)><!-- > ' --><?p '>?><!ATTLIST a b CDATA "
     "\">\">]><a/>|<_a.-:9\xC3\xA4 b = '\"&lt;>' c=\"'\"/>|<a>]] > ]]&gt; &#x10FFFF;&#1;&#0065;</a>|"
     "<a><![CDATA[<&]]]]>--</a>|<a\n\tb\n=\n''/>|<a>\x7F\t\r\n</a>|<a><a><a></a></a><a></a></a>|"
-    "<a b='' c='' d='' e='' f='' g='' h='' i='' j='' k=''/>|<a b=''/><!--x--><?p?>";
+    "<a b='' c='' d='' e='' f='' g='' h='' i='' j='' k=''><a b='' c='' d='' e='' f='' g='' h='' "
+    "i='' j='' k=''/></a>|<a b=''/><!--x--><?p?>";
 constexpr std::string_view kRefused =
     // Roots, and what stands beside them.
     "| \n |<?xml version='1.0'?><!-- -->|<a/><b/>|x<a/>|<a/>\n x|<a/>&lt;|<a/><![CDATA[]]>|\0<a/>|"

@@ -29,6 +29,7 @@ TEST(XMLTree, ValuesAreAnElementsOwnText) {
               {"x<!-- y -->z", "xz"},
               {"<!--y--> x", " x"},
               {" a<![CDATA[<&b> ]]>c ", " a<&b> c "},
+              {"x<!-- y --> <![CDATA[z]]> ", "x z "},
               {"1<b>2</b>3", "13"},
               {"\n  <b/>\n 1 \n<b/>\n", "\n 1 \n"},
               {"1<?pi 2?>3", "13"},

@@ -1,0 +1,102 @@
+// The nodes of option trees, and a document that is filled by more than one road.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "qdf/core/documentmembers.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+
+namespace {
+
+ADWordArray Array(std::initializer_list<std::uint32_t> ids) {
+  ADWordArray array;
+  for (const std::uint32_t id : ids) array.Add(id);
+  return array;
+}
+
+TEST(OptionTree, MergesIDsOnceAndInOrder) {
+  ADWordArray none;
+  ADWordArray target = Array({1, 2});
+  ADWordArray source = Array({2, 3, 3, 1});
+  EXPECT_EQ(IsIDInArray(0, none), 0);
+  EXPECT_EQ(IsIDInArray(3, source), 1);
+  EXPECT_EQ(IsIDInArray(4, source), 0);
+  MergeIDArray(target, source);
+  EXPECT_EQ(Dump(target), "1,2,3");
+  MergeIDArray(source, source);
+  EXPECT_EQ(Dump(source), "2,3,3,1") << "what stood there stays";
+
+  CQDFNode parent;
+  parent.Default = 7;
+  const CQDFNode& child = *AddChildNode(parent, source);
+  EXPECT_EQ(Dump(child), "2,3,3,1");
+  MergeIDArray(parent, target);
+  MergeIDArray(parent, *ChildAt(parent, 0));
+  EXPECT_EQ(Dump(parent), "1,2,3>7[2,3,3,1]");
+  AddChildNode(parent, none);
+  parent.Children.Add(nullptr);
+}
+
+// Beyond the few ids that are looked through one by one, with ids that are alike in their low bits.
+TEST(OptionTree, MergesManyIDs) {
+  ADWordArray target;
+  ADWordArray source;
+  for (std::uint32_t i = 0; i < 3000; ++i) source.Add(i % 1000 * 0x10000U);
+  MergeIDArray(target, source);
+  ASSERT_EQ(target.GetSize(), 1000);
+  for (int i = 0; i < 1000; ++i) {
+    ASSERT_EQ(target.GetAt(i), static_cast<std::uint32_t>(i) * 0x10000U);
+  }
+}
+
+TEST(OptionTree, IsCopiedOntoWhatIsThere) {
+  APMQDF document;
+  CQDFNode target;
+  EXPECT_FALSE(document.PMCopyMediaSourceTreeRoot(nullptr, &target));
+  EXPECT_EQ(Dump(target), "");
+  {
+    const auto other =
+        Load({.InkList = Entries("1;2"), .Control = Control(">2[1,2>3[1>4[1>5[1]];1]]")});
+    CQDFNode& source = DocumentMembers(*other).ControlTreeRoot;
+    source.IDs = Array({9, 9});
+    source.Children.InsertAt(0, nullptr, 1);
+    EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
+    EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
+  }
+  EXPECT_EQ(Dump(target), "9,9,9,9>2[1,2>3[1>4[1>5[1]];1];1,2>3[1>4[1>5[1]];1]]");
+}
+
+TEST(Document, KeepsItsRecordsWhenItIsLoadedAgain) {
+  const TempFolder folder;
+  AFilePath path(folder
+                     .Write("first", DocumentText{.InkList = Entries("2=x;1=first"),
+                                                  .Definition = "<ProductType>a</ProductType>",
+                                                  .Control = Control(">2[1[1]]")}
+                                         .Text())
+                     .c_str());
+  AFilePath more(folder
+                     .Write("more", DocumentText{.InkList = Entries("1=second;3"),
+                                                 .MediaList = Entries("1;2"),
+                                                 .Control = Control("[3[2]]")}
+                                        .Text())
+                     .c_str());
+  AFilePath broken(
+      folder.Write("broken", DocumentText{.MediaList = "", .Control = Control("[1]")}.Text())
+          .c_str());
+  APMQDF document;
+  std::vector<InkTypeInfo> inks;
+  EXPECT_EQ(document.GetFullInkTypeList(inks), 0);
+  EXPECT_EQ(document.LoadQDFFile(broken), 0);
+  EXPECT_EQ(document.GetFullInkTypeList(inks), 1) << "what was read before it broke off";
+  inks.clear();
+  EXPECT_NE(document.LoadQDFFile(path), 0);
+  EXPECT_NE(document.LoadQDFFile(more), 0);
+  document.GetFullInkTypeList(inks);
+  EXPECT_EQ(IDs(inks), "1,2,3");
+  EXPECT_EQ(Dump(DocumentMembers(document).ControlTreeRoot), "[1[1];3[2]]");
+  EXPECT_EQ(document.GetProdcutType(), "a");
+}
+
+}  // namespace
