@@ -112,6 +112,8 @@ TEST(Narrowing, FollowsTheSourceTreeWithoutGoingBack) {
                 {{3, 31}, "40@0"},
                 {{2, 32}, "@0"},
                 {{1}, "@0"}}},
+              {"[2;2[30[40]];1[31;31[41]]]",
+               {{{2}, "@0"}, {{2, 30}, "@0"}, {{1}, "31@0"}, {{1, 31}, "@0"}}},
               {"", {{{}, "@0"}, {{1}, "@0"}, {{1, 30}, "@0"}}}};
   const std::string definition = "<MediaSourceList>" + Entries("1;2;3") +
                                  "</MediaSourceList><MediaSizeList>" + Entries("32;31;30") +

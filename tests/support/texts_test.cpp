@@ -103,7 +103,8 @@ TEST(Arrays, AppendTheirOwnElementsAndInsertAnywhere) {
   words[1] = 8;
   EXPECT_EQ(Dump(copy), "-1,7,-1,7");
   EXPECT_EQ(copy.Append(copy), 4);
-  EXPECT_EQ(Dump(copy), "-1,7,-1,7,-1,7,-1,7");
+  EXPECT_EQ(copy.Append(copy), 8);
+  EXPECT_EQ(Dump(copy), "-1,7,-1,7,-1,7,-1,7,-1,7,-1,7,-1,7,-1,7");
   words.SetSize(0, -1);
   EXPECT_EQ(words.GetSize(), 0);
 
