@@ -7,23 +7,9 @@
 #include <cerrno>
 #include <cstring>
 
+#include "qdf/support/descriptor.h"
+
 namespace {
-
-class Descriptor {
- public:
-  // Non-blocking, since opening a pipe would otherwise wait for a writer.
-  explicit Descriptor(const char* path) : number_(open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {}
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-
-  int Number() const { return number_; }
-
- private:
-  int number_;
-};
 
 const char* SystemReason() {
   switch (errno) {
@@ -44,9 +30,10 @@ const char* SystemReason() {
 }  // namespace
 
 const char* ReadFileBytes(const char* path, FileBytes& bytes) {
-  const Descriptor file(path);
+  // Non-blocking, since opening a pipe would otherwise wait for a writer.
+  const Descriptor file(open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
-  if (file.Number() < 0 || fstat(file.Number(), &status) != 0) return SystemReason();
+  if (!file.IsOpen() || fstat(file.Number(), &status) != 0) return SystemReason();
   if (S_ISDIR(status.st_mode)) return "it is a folder";
   if (!S_ISREG(status.st_mode)) return "it is no regular file";
 

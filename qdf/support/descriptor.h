@@ -1,0 +1,42 @@
+#pragma once
+
+// Descriptor closes a file or folder of the operating system when it goes.
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <new>
+#include <utility>
+
+class Descriptor {
+ public:
+  Descriptor() = default;
+  // Takes over what an open call gave, a negative number included.
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (IsOpen()) close(number_);
+  }
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+
+  bool IsOpen() const { return number_ >= 0; }
+  int Number() const { return number_; }
+
+  // Gives the number away; whoever gets it closes it.
+  int Release() { return std::exchange(number_, -1); }
+
+ private:
+  int number_ = -1;
+};
+
+// To be called when an operation on a file has failed, with errno as it left it. Throws bad_alloc
+// when the process lacked means, such as memory or descriptors, or its path was too long: that says
+// nothing of the file.
+inline void ThrowIfWithoutMeans() {
+  if (errno == ENOMEM || errno == EMFILE || errno == ENFILE || errno == ENAMETOOLONG) {
+    throw std::bad_alloc();
+  }
+}

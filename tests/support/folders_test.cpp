@@ -1,0 +1,133 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "qdf/support/directorysearch.h"
+#include "qdf/support/filestatus.h"
+#include "qdf/support/folderwalk.h"
+#include "tests/children.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Folders, AreSearchedInOneOrderEverywhere) {
+  const TempFolder folder;
+  for (const char* name : {"b", "B", "_", "a2", "A10", "a", "\xE4", "~", ".hidden"}) {
+    folder.Write(name, "");
+  }
+  std::vector<DirectoryEntry> entries;
+  ASSERT_TRUE(SearchFolder(folder.Path().c_str(), entries));
+  std::vector<std::string> names;
+  for (const DirectoryEntry& entry : entries) names.push_back(entry.name);
+  EXPECT_EQ(Join(names, " "), ".hidden a A10 a2 B b _ ~ \xE4");
+  EXPECT_FALSE(SearchFolder(folder.Path("a").c_str(), entries));
+  EXPECT_FALSE(SearchFolder(folder.Path("missing").c_str(), entries));
+}
+
+// Everything that a walk meets, as paths below the folder.
+std::string Walked(const TempFolder& folder) {
+  std::vector<std::string> paths;
+  const std::string top = folder.Path() + "/";
+  FolderWalk walk(OpenFolder(top.c_str()), top);
+  while (walk.Next()) {
+    EXPECT_TRUE(walk.Path().starts_with(top));
+    EXPECT_TRUE(walk.Path().ends_with(walk.Entry().name));
+    paths.push_back(walk.Path().substr(top.size()));
+  }
+  return Join(paths, " ");
+}
+
+TEST(Folders, AreWalkedWithoutFollowingLinks) {
+  const TempFolder outside;
+  outside.Write("secret/file", "");
+  const TempFolder folder;
+  folder.Write("b/c/file", "");
+  folder.Write("a", "");
+  fs::create_directory(folder.Path("b/empty"));
+  fs::create_directory_symlink(outside.Path("secret"), folder.Path("b/out"));
+  fs::create_directory_symlink(folder.Path(), folder.Path("loop"));
+  EXPECT_EQ(Walked(folder), "a b/c/file b/c b/empty b/out b loop");
+}
+
+// What one may see but not pass through is an entry like an empty folder, and the walk goes on.
+TEST(Folders, ThatGiveNoAccessDontEndAWalk) {
+  const TempFolder folder;
+  folder.Write("a/b/file", "");
+  folder.Write("a/closed/file", "");
+  folder.Write("z", "");
+  chmod(folder.Path("a/b").c_str(), S_IRUSR | S_IRGRP | S_IROTH);
+  chmod(folder.Path("a/closed").c_str(), 0);
+  chmod(folder.Path().c_str(), 0755);
+  EXPECT_EQ(InChild([&] {
+              DropPrivileges();
+              return Walked(folder) == "a/b a/closed a z" ? 0 : 1;
+            }),
+            0);
+  chmod(folder.Path("a/b").c_str(), 0755);
+  chmod(folder.Path("a/closed").c_str(), 0755);
+}
+
+// The path is longer than the system takes in one piece, the folders more than it lets one open.
+TEST(Folders, AreWalkedAndRemovedAtAnyDepth) {
+  constexpr int kDepth = 700;
+  const TempFolder folder;
+  const auto removeAll = [&] {
+    const rlimit few{32, 32};
+    setrlimit(RLIMIT_NOFILE, &few);
+    Descriptor here = OpenFolder(folder.Path().c_str());
+    for (int i = 0; i < kDepth && here.IsOpen(); ++i) {
+      mkdirat(here.Number(), "folder", 0755);
+      here = OpenSubfolder(here, "folder");
+    }
+    FolderWalk walk(OpenFolder(folder.Path().c_str()), "");
+    int removed = 0;
+    while (walk.Next()) {
+      const DirectoryEntry& entry = walk.Entry();
+      if (RemoveEntry(walk.Folder(), entry.name.c_str(), entry.kind)) ++removed;
+    }
+    return removed == kDepth ? 0 : 1;
+  };
+  EXPECT_EQ(InChild(removeAll), 0);
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
+}
+
+TEST(Folders, ThatMoveWhileAWalkIsInsideEndIt) {
+  const TempFolder folder;
+  const TempFolder outside;
+  folder.Write("a/b/file", "");
+  folder.Write("z", "");
+  outside.Write("mine", "");
+  FolderWalk walk(OpenFolder(folder.Path().c_str()), "");
+  ASSERT_TRUE(walk.Next());
+  EXPECT_EQ(walk.Path(), "a/b/file");
+  fs::rename(folder.Path("a/b"), outside.Path("b"));
+  EXPECT_FALSE(walk.Next());
+  EXPECT_FALSE(walk.Next());
+}
+
+TEST(FileStatus, ComesBackExactly) {
+  const TempFolder folder;
+  const std::string file = folder.Write("file", "x");
+  const FileStatus former{04440, {1000, 5}, {2000, 7}};
+  ASSERT_TRUE(WriteFileStatus(file.c_str(), former));
+  FileStatus status{};
+  ASSERT_TRUE(ReadFileStatus(file.c_str(), status));
+  EXPECT_TRUE(status.IsReadOnly());
+  EXPECT_EQ(status.mode, former.mode);
+  EXPECT_EQ(status.modified.tv_sec, 2000);
+  EXPECT_EQ(status.modified.tv_nsec, 7);
+  EXPECT_EQ(status.accessed.tv_nsec, 5);
+  status.mode = 0464;  // one who may write is enough
+  EXPECT_FALSE(status.IsReadOnly());
+  EXPECT_FALSE(ReadFileStatus(folder.Path().c_str(), status));
+  EXPECT_FALSE(ReadFileStatus(folder.Path("missing").c_str(), status));
+}
+
+}  // namespace
