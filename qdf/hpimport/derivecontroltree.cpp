@@ -1,0 +1,188 @@
+#include "qdf/hpimport/derivecontroltree.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <unordered_map>
+
+#include "qdf/control/nametable.h"
+#include "qdf/hpimport/derivecolormodes.h"
+#include "qdf/hpimport/growingtree.h"
+#include "qdf/hpimport/hpresource.h"
+#include "qdf/hpimport/records.h"
+#include "qdf/support/text.h"
+#include "qdf/support/uniqueids.h"
+
+namespace {
+
+std::uint32_t AsWord(int id) { return static_cast<std::uint32_t>(id); }
+
+// The ids of all records of a list that have one key, in list order.
+class IDsByKey {
+ public:
+  void Add(const std::string& key, int id) { ids_[key].Add(AsWord(id)); }
+  ADWordArray& Of(const std::string& key) {
+    const auto known = ids_.find(key);
+    return known != ids_.end() ? known->second : none_;
+  }
+
+ private:
+  std::unordered_map<std::string, ADWordArray> ids_;
+  ADWordArray none_;
+};
+
+// What the levels of a path are called in a document: the ids that a resource names.
+class IDTables {
+ public:
+  IDTables(const APtrArray& mediaList, const APtrArray& printModeList,
+           const APtrArray& resolutionList, const APtrArray& colorModeList)
+      : colorModeList_(colorModeList) {
+    ForEach<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
+      media_.Add(std::string(FieldText(media.InternalName)), media.ID);
+    });
+    ForEach<PrintModeInfo>(printModeList, [&](const PrintModeInfo& printMode) {
+      printModes_.Add(std::string(FieldText(printMode.DisplayName)), printMode.ID);
+    });
+    ForEach<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
+      const std::string key =
+          ResolutionKey(FieldText(record.DisplayName), record.XResolution, record.YResolution);
+      if (!key.empty()) resolutions_.Add(key, record.ID);
+    });
+  }
+
+  ADWordArray& Media(const HPResourceInfo& resource) {
+    return media_.Of(std::string(FieldPart(resource.MediaName)));
+  }
+  ADWordArray& PrintModes(const HPResourceInfo& resource) {
+    return printModes_.Of(std::string(FieldPart(resource.PrintQuality)));
+  }
+  ADWordArray& Resolutions(const HPResourceInfo& resource) {
+    return resolutions_.Of(ResolutionKey(FieldPart(resource.DisplayResolution), resource.InputHRes,
+                                         resource.InputVRes));
+  }
+  ADWordArray& ColorModes(const HPResourceInfo& resource) {
+    const auto [known, isNew] =
+        colorModes_.try_emplace({static_cast<const char*>(resource.InputFormat),
+                                 resource.CColorDepth, resource.KColorDepth});
+    if (isNew) CollectColorModeIDs(resource, colorModeList_, known->second);
+    return known->second;
+  }
+
+ private:
+  IDsByKey media_;
+  IDsByKey printModes_;
+  IDsByKey resolutions_;
+  const APtrArray& colorModeList_;
+  // By input format and both depths, of which there are few.
+  std::map<std::tuple<std::string, int, int>, ADWordArray> colorModes_;
+};
+
+CQDFNode* AddLeaf(CQDFNode& parent) {
+  CQDFNode* leaf = AddChildNode(parent);
+  leaf->Default = -1;
+  return leaf;
+}
+
+// The names that the nodes refer to.
+class Names {
+ public:
+  Names(AStringArray& iccProfiles, AStringArray& oemInfos, AStringArray& ditherNames)
+      : profiles_(iccProfiles, NameCase::Ignored),
+        oemInfos_(oemInfos, NameCase::Ignored),
+        dithers_(ditherNames, NameCase::Exact) {}
+
+  // What a resource gives its colour mode node: its file's name and a pair of leaves.
+  void AddTo(CQDFNode& colorMode, const HPResourceInfo& resource) {
+    InternDefaultStringIfGiven(&colorMode, Trimmed(View(resource.FileName)), oemInfos_);
+    CQDFNode* profile = AddLeaf(colorMode);
+    InternDefaultStringIfGiven(profile, View(resource.OutputICC), profiles_);
+    if (profile->Default >= 0) profile->IDs.Add(AsWord(profile->Default));
+    CQDFNode* dither = AddLeaf(colorMode);
+    dither->IDs.Add(AsWord(dithers_.Intern(DitherName(resource))));
+  }
+
+ private:
+  // Algorithm may be as great as an int can be.
+  static std::string DitherName(const HPResourceInfo& resource) {
+    return std::to_string(100LL + resource.Algorithm);
+  }
+
+  NameTable profiles_;
+  NameTable oemInfos_;
+  NameTable dithers_;
+};
+
+CQDFNode& AddInkNode(CQDFNode& root, int inkID, int defaultMedia) {
+  CQDFNode* ink = AddChildNode(root);
+  ink->IDs.Add(AsWord(inkID));
+  ink->Default = defaultMedia;
+  root.Default = inkID;
+  return *ink;
+}
+
+}  // namespace
+
+CQDFNode* FindOrAddChild(CQDFNode* parent, ADWordArray& ids) {
+  for (int i = 0; i < parent->Children.GetSize(); ++i) {
+    CQDFNode* child = ChildAt(*parent, i);
+    if (IDArraysOverlap(child->IDs, ids) == 0) continue;
+    MergeIDArray(*child, ids);
+    return child;
+  }
+  return AddChildNode(*parent, ids);
+}
+
+int IDArraysOverlap(const ADWordArray& a, const ADWordArray& b) {
+  ADWordArray own = a;
+  const UniqueIDs known(own);
+  return std::any_of(b.begin(), b.end(), [&](std::uint32_t id) { return known.Holds(id); }) ? 1 : 0;
+}
+
+int FindIDByDisplayName(AString name, APtrArray& list) {
+  // Both kinds of record begin alike.
+  static_assert(offsetof(MediaTypeInfo, ID) == offsetof(PrintModeInfo, ID));
+  static_assert(offsetof(MediaTypeInfo, DisplayName) == offsetof(PrintModeInfo, DisplayName));
+  const std::string_view wanted = FieldPart(name);
+  for (int i = 0; i < list.GetSize(); ++i) {
+    const char* record = static_cast<const char*>(list.GetAt(i));
+    const char* displayName = record + offsetof(MediaTypeInfo, DisplayName);
+    const std::size_t length = strnlen(displayName, sizeof(MediaTypeInfo::DisplayName));
+    if (std::string_view(displayName, length) != wanted) continue;
+    int id = 0;
+    std::memcpy(&id, record + offsetof(MediaTypeInfo, ID), sizeof id);
+    return id;
+  }
+  return 1;
+}
+
+void CollectMediaIDs(AString name, APtrArray& mediaList, ADWordArray& ids) {
+  const std::string_view wanted = FieldPart(name);
+  ForEach<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
+    if (FieldText(media.InternalName) == wanted) ids.Add(AsWord(media.ID));
+  });
+}
+
+int DeriveControlTree(APtrArray& resources, APtrArray& inkList, APtrArray& mediaList,
+                      APtrArray& printModeList, APtrArray& resolutionList, APtrArray& colorModeList,
+                      CQDFNode* root, AStringArray& iccProfiles, AStringArray& oemInfos,
+                      AStringArray& ditherNames) {
+  if (resources.GetSize() == 0 || inkList.GetSize() == 0) return 0;
+  IDTables ids(mediaList, printModeList, resolutionList, colorModeList);
+  Names names(iccProfiles, oemInfos, ditherNames);
+  const int defaultPrintMode = FindIDByDisplayName("Best", printModeList);
+  CQDFNode& ink = AddInkNode(*root, static_cast<InkTypeInfo*>(inkList.GetAt(0))->ID,
+                             FindIDByDisplayName("HP Proofing Gloss", mediaList));
+  GrowingTree tree;
+  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+    CQDFNode& media = tree.FindOrAddChild(ink, ids.Media(resource));
+    media.Default = defaultPrintMode;
+    CQDFNode& printMode = tree.FindOrAddChild(media, ids.PrintModes(resource));
+    CQDFNode& resolution = tree.FindOrAddChild(printMode, ids.Resolutions(resource));
+    names.AddTo(tree.FindOrAddChild(resolution, ids.ColorModes(resource)), resource);
+  });
+  return 1;
+}

@@ -1,0 +1,77 @@
+#include "qdf/hpimport/growingtree.h"
+
+#include <algorithm>
+
+namespace {
+
+// A look at so many ids costs no more than to remember the set.
+constexpr int kFewIDs = 8;
+
+std::uint32_t HashOf(const void* address) {
+  constexpr std::uintptr_t kOdd = 0x9E3779B97F4A7C15U;
+  return static_cast<std::uint32_t>((reinterpret_cast<std::uintptr_t>(address) * kOdd) >> 32U);
+}
+
+}  // namespace
+
+GrowingTree::Holder* GrowingTree::HolderOf(const CQDFNode& parent, std::uint32_t id) {
+  const int at = holderIndex_.Find(HashOf(&parent) + id, [&](int i) {
+    const Holder& holder = holders_[static_cast<std::size_t>(i)];
+    return holder.parent == &parent && holder.id == id;
+  });
+  return at >= 0 ? &holders_[static_cast<std::size_t>(at)] : nullptr;
+}
+
+int GrowingTree::FirstWithAny(const CQDFNode& parent, const ADWordArray& ids) {
+  int first = parent.Children.GetSize();
+  for (const std::uint32_t id : ids) {
+    const Holder* holder = HolderOf(parent, id);
+    if (holder != nullptr) first = std::min(first, holder->child);
+  }
+  return first;
+}
+
+void GrowingTree::SetHolder(const CQDFNode& parent, std::uint32_t id, int child) {
+  Holder* holder = HolderOf(parent, id);
+  if (holder == nullptr) {
+    holderIndex_.Add(HashOf(&parent) + id, static_cast<int>(holders_.size()));
+    holders_.push_back({&parent, id, child});
+  } else if (holder->child != child) {
+    holder->child = child;
+    ++moves_;
+  }
+}
+
+GrowingTree::Found* GrowingTree::FormerlyFound(const CQDFNode& parent, const ADWordArray& ids) {
+  const int at = foundIndex_.Find(HashOf(&parent) + HashOf(&ids), [&](int i) {
+    const Found& found = found_[static_cast<std::size_t>(i)];
+    return found.parent == &parent && found.ids == &ids;
+  });
+  return at >= 0 ? &found_[static_cast<std::size_t>(at)] : nullptr;
+}
+
+void GrowingTree::Remember(const CQDFNode& parent, const ADWordArray& ids, int child) {
+  Found* former = FormerlyFound(parent, ids);
+  if (former != nullptr) {
+    *former = {&parent, &ids, child, moves_};
+  } else {
+    foundIndex_.Add(HashOf(&parent) + HashOf(&ids), static_cast<int>(found_.size()));
+    found_.push_back({&parent, &ids, child, moves_});
+  }
+}
+
+CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
+  const bool isLarge = ids.GetSize() > kFewIDs;
+  const Found* former = isLarge ? FormerlyFound(parent, ids) : nullptr;
+  // Without a move since then, the same child is still the first and holds all the ids.
+  if (former != nullptr && former->moves == moves_) return *ChildAt(parent, former->child);
+  const int child = FirstWithAny(parent, ids);
+  if (child == parent.Children.GetSize()) {
+    AddChildNode(parent, ids);
+  } else {
+    MergeIDArray(*ChildAt(parent, child), ids);
+  }
+  for (const std::uint32_t id : ids) SetHolder(parent, id, child);
+  if (isLarge) Remember(parent, ids, child);
+  return *ChildAt(parent, child);
+}

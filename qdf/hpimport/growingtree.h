@@ -1,0 +1,44 @@
+#pragma once
+
+// GrowingTree finds a node's child by its ids without a walk over all children, while a tree grows.
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "qdf/core/qdfnode.h"
+#include "qdf/support/hashindex.h"
+
+class GrowingTree {
+ public:
+  // Does what FindOrAddChild does, for parents to which nobody else gives children. A set of ids is
+  // known again by its address: it neither changes nor goes while the tree grows.
+  CQDFNode& FindOrAddChild(CQDFNode& parent, ADWordArray& ids);
+
+ private:
+  // The first child of the parent that holds the id.
+  struct Holder {
+    const CQDFNode* parent;
+    std::uint32_t id;
+    int child;
+  };
+  // Where a large set of ids was found, and how many moves there had been then.
+  struct Found {
+    const CQDFNode* parent;
+    const ADWordArray* ids;
+    int child;
+    int moves;
+  };
+
+  Found* FormerlyFound(const CQDFNode& parent, const ADWordArray& ids);
+  void Remember(const CQDFNode& parent, const ADWordArray& ids, int child);
+  Holder* HolderOf(const CQDFNode& parent, std::uint32_t id);
+  int FirstWithAny(const CQDFNode& parent, const ADWordArray& ids);
+  void SetHolder(const CQDFNode& parent, std::uint32_t id, int child);
+
+  std::vector<Holder> holders_;
+  HashIndex holderIndex_;
+  std::vector<Found> found_;
+  HashIndex foundIndex_;
+  int moves_ = 0;  // how often an id came to stand in an earlier child as well
+};

@@ -1,0 +1,211 @@
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <limits>
+
+#include "qdf/hpimport/derivecolormodes.h"
+#include "qdf/hpimport/derivecontroltree.h"
+#include "qdf/hpimport/derivelists.h"
+#include "tests/hpimport/derived.h"
+#include "tests/hpimport/resources.h"
+
+namespace {
+
+constexpr int kGreatest = std::numeric_limits<int>::max();
+
+// A document derived from the resources, with the inks and media of a previous one.
+std::unique_ptr<APMQDF> Derive(const std::vector<Resource>& resources, DocumentText previous = {},
+                               int result = 1) {
+  Resources records;
+  for (const Resource& resource : resources) AddTo(records, resource);
+  const auto old = Load(previous);
+  DocumentMembers former(*old);
+  auto document = std::make_unique<APMQDF>();
+  EXPECT_EQ(document->LoadHPResourceInfo(records, former.InkList, former.MediaList), result);
+  return document;
+}
+
+Derived All(const std::vector<Resource>& resources, const DocumentText& previous = {}) {
+  return Derived(DocumentMembers(*Derive(resources, previous)));
+}
+
+std::string Media(const std::vector<Resource>& resources, const std::string& old = "99=other",
+                  const std::string& more = {}) {
+  return All(resources, {.MediaList = Entries(old, more)}).media;
+}
+
+std::string Tree(const std::vector<Resource>& resources, const DocumentText& previous = {}) {
+  return All(resources, previous).tree;
+}
+
+TEST(DeriveMedia, KeepTheirIdsByBothNamesAndAreNumberedOnByKind) {
+  EXPECT_EQ(Media({{.displayNames = {"a", "b", "a"}}, {.quality = "draft", .displayNames = {"b"}}}),
+            "1=Glossy/a;2=Glossy/b");
+  EXPECT_EQ(Media({{}, {.media = "glossy"}, {.displayNames = {"gloss"}}}),
+            "1=Glossy/Gloss;2=glossy/Gloss;3=Glossy/gloss");
+  // The first resource of a pair says whether it is customisable.
+  EXPECT_EQ(Media({{.customizable = 1}, {}, {.media = "B"}, {.media = "C", .customizable = 5}}),
+            "1=B/Gloss;10001=Glossy/Gloss*;10002=C/Gloss*");
+  const std::vector<Resource> five = {{.media = "A"},
+                                      {},
+                                      {.media = "N"},
+                                      {.media = "N2", .customizable = 1},
+                                      {.media = "Old", .customizable = 1}};
+  EXPECT_EQ(Media(five, "7=Gloss/Glossy;10007=Gloss/Old;50=Gone/Glossy;60=Gloss/Gone"),
+            "7=Glossy/Gloss;8=A/Gloss;9=N/Gloss;10007=Old/Gloss*;10008=N2/Gloss*");
+  // The kind is that of the new media: an id of the other kind weighs with its counter.
+  EXPECT_EQ(Media({{}, {.media = "N"}}, "10007=Gloss/Glossy",
+                  "<IsCustomizableMedia>1</IsCustomizableMedia>"),
+            "10007=Glossy/Gloss;10008=N/Gloss");
+  EXPECT_EQ(Media({{.customizable = 1}, {.media = "N", .customizable = 1}, {.media = "P"}},
+                  "7=Gloss/Glossy"),
+            "1=P/Gloss;7=Glossy/Gloss*;10001=N/Gloss*");
+  // 0 is no id; equal ids of both kinds stand one behind the other.
+  EXPECT_EQ(Media({{}, {.media = "N", .customizable = 1}, {.media = "O"}}, "0=Gloss/Glossy"),
+            "1=Glossy/Gloss;2=O/Gloss;10001=N/Gloss*");
+  EXPECT_EQ(Media({{.media = "N", .customizable = 1}, {}}, "10001=Gloss/Glossy"),
+            "10001=N/Gloss*;10001=Glossy/Gloss");
+  EXPECT_EQ(Media({{}, {.media = "N", .customizable = 1}}, "-5=Gloss/Glossy"),
+            "-5=Glossy/Gloss;10001=N/Gloss*");
+}
+
+TEST(DeriveMedia, CountNamesWithAsManyCharactersAsAFieldHolds) {
+  const std::string full(256, 'x');
+  EXPECT_EQ(Media({{.media = full, .displayNames = {full + "1", full + "2"}},
+                   {.media = full + "3", .displayNames = {full}}},
+                  "7=" + full + "/" + full),
+            "7=" + full + "/" + full);
+}
+
+TEST(DeriveMedia, FailWhenNoNumberIsLeft) {
+  const DocumentText previous{.MediaList = Entries(std::to_string(kGreatest) + "=Gloss/Glossy")};
+  const auto kept = Derive({{}}, previous);
+  EXPECT_EQ(IDs(Records<MediaTypeInfo>(DocumentMembers(*kept).MediaList)), "2147483647");
+  const auto failed = Derive({{}, {.media = "New"}}, previous, 0);
+  EXPECT_EQ(DocumentMembers(*failed).MediaList.GetSize(), 0);
+}
+
+TEST(DerivePrintModes, AreNumberedByQuality) {
+  EXPECT_EQ(All({{.quality = "superbest"},
+                 {.quality = "Best"},
+                 {.quality = "premium"},
+                 {.quality = "draft"}})
+                .printModes,
+            "1=premium/Best;2=superbest/Best;3=Best/Best;4=draft/Best");
+  EXPECT_EQ(All({{.quality = "BEST"},
+                 {.quality = "best"},
+                 {.quality = "best", .printQuality = "best"},
+                 {.quality = "Fastest"},
+                 {.quality = "normal2", .printQuality = "N"},
+                 {.quality = "normal1", .printQuality = "N"},
+                 {.quality = "Photo"},
+                 {.quality = "my best"},
+                 {.quality = "bes"}})
+                .printModes,
+            "1=BEST/Best;2=best/best;3=normal2/N;4=normal1/N;5=Fastest/Best");
+}
+
+TEST(DeriveResolutions, AreToldApartByNameAndExactNumbers) {
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  const std::vector<Resource> resources = {{},          {.resolution = "6"}, {},
+                                           {.y = 300},  {.x = 600.0000001},  {.x = 0.0},
+                                           {.x = -0.0}, {.x = none},         {.x = none}};
+  EXPECT_EQ(All(resources).resolutions,
+            "1=600/600x600;2=6/600x600;3=600/600x300;4=600/600x600;5=600/0x600;6=600/nanx600;"
+            "7=600/nanx600");
+}
+
+TEST(DeriveColorModes, AreMadeOnceForALayoutAndADepth) {
+  const std::string first = "1=CMYK/No(Cyan 2,Magenta 2,Yellow 2,Black 1);2=Gray Scale/Yes(Gray 1)";
+  EXPECT_EQ(All({{}, {}}).colorModes, first);
+  EXPECT_EQ(All({{}, {.format = "KCcMmY"}}).colorModes,
+            first + ";3=CMYKLcLm/No(Cyan 2,Magenta 2,Yellow 2,Black 1,LCyan 2,LMagenta 2)");
+  // The depth of black makes a grey mode only.
+  EXPECT_EQ(All({{}, {.black = 3}}).colorModes, first + ";3=Gray Scale/Yes(Gray 3)");
+  EXPECT_EQ(All({{}, {.color = 4}}).colorModes,
+            first + ";3=CMYK/No(Cyan 4,Magenta 4,Yellow 4,Black 1)");
+  // Other layouts give nothing, and later resources are read as usual.
+  EXPECT_EQ(All({{.format = "kcmy"}, {.format = "CMYK"}, {.format = ""}, {}}).colorModes, first);
+}
+
+TEST(DeriveTree, GivesEachResourceAPath) {
+  EXPECT_EQ(Tree({{}}), ">1[1>1[1>1[1[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
+  // All names of a media in one node; below the first ink only; defaults by display name.
+  EXPECT_EQ(Tree({{.displayNames = {"a", "HP Proofing Gloss"}, .printQuality = "BEST"},
+                  {.quality = "draft", .displayNames = {"a"}, .file = "g.xml"}},
+                 {.InkList = Entries("5;6")}),
+            ">5[5>2[1,2>2[1[1[1,2[0;0>-1]]];2[1[1,2>1[0;0>-1]]]]]] f.xml|g.xml p.icc 101");
+  // Qualities with one print quality share a node, media never.
+  EXPECT_EQ(Tree({{}, {.quality = "draft"}, {.media = "B"}}),
+            ">1[1>1[1>1[1,2[1[1,2[0;0>-1;0;0>-1]]]];2>1[1,2[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
+  // Two colour modes that share their grey one share a node, in the order in which they came.
+  EXPECT_EQ(Tree({{}, {.color = 3}, {.black = 4}}),
+            ">1[1>1[1>1[1[1[1,2,3,4[0;0>-1;0;0>-1;0;0>-1]]]]]] f.xml p.icc 101");
+}
+
+TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
+  struct Row {
+    std::vector<Resource> resources;
+    const char* filled;  // the sizes of the lists
+  };
+  const Row rows[] = {
+      {{}, "1 0 0 0 0"},
+      {{{.displayNames = {}}}, "1 0 0 0 0"},
+      {{{.quality = "Photo"}}, "1 1 0 0 0"},
+      {{{.format = ""}}, "1 1 1 1 0"},
+  };
+  for (const Row& row : rows) {
+    const auto document = Derive(row.resources, {}, 0);
+    const DocumentMembers members(*document);
+    AString sizes;
+    sizes.Format("%d %d %d %d %d", members.InkList.GetSize(), members.MediaList.GetSize(),
+                 members.PrintModeList.GetSize(), members.ResolutionList.GetSize(),
+                 members.ColorModeList.GetSize());
+    EXPECT_EQ(sizes, row.filled);
+    EXPECT_EQ(Dump(members.ControlTreeRoot), "");
+  }
+  Resources resources;
+  AddTo(resources, {});
+  APtrArray none;
+  APMQDF document;
+  EXPECT_EQ(document.LoadHPResourceInfo(resources, none, none), 0);
+  DocumentMembers members(document);
+  EXPECT_EQ(members.MediaList.GetSize(), 0);
+  EXPECT_EQ(DeriveControlTree(resources, none, none, none, none, none, &members.ControlTreeRoot,
+                              members.ICCProfileList, members.OEMInfoList, members.DitherNameList),
+            0);
+  EXPECT_EQ(Dump(members.ControlTreeRoot), "");
+  EXPECT_EQ(DeriveMediaList(none, members.MediaList, none), 0);
+  EXPECT_EQ(DerivePrintModeList(none, members.PrintModeList), 0);
+  EXPECT_EQ(DeriveResolutionList(none, members.ResolutionList), 0);
+  EXPECT_EQ(DeriveColorModeList(none, members.ColorModeList), 0);
+}
+
+TEST(DeriveTree, FindsByAnySharedIdAndByName) {
+  const auto ids = [](std::initializer_list<std::uint32_t> words) {
+    ADWordArray array;
+    for (const std::uint32_t word : words) array.Add(word);
+    return array;
+  };
+  EXPECT_EQ(IDArraysOverlap(ids({1, 2}), ids({3, 2})), 1);
+  EXPECT_EQ(IDArraysOverlap(ids({1, 2}), ids({3})), 0);
+  EXPECT_EQ(IDArraysOverlap(ids({}), ids({3})), 0);
+  EXPECT_EQ(IDArraysOverlap(ids({}), ids({})), 0);
+  CQDFNode parent;
+  for (ADWordArray wanted : {ids({1}), ids({2}), ids({3, 2}), ids({}), ids({2, 1}), ids({2, 4})}) {
+    FindOrAddChild(&parent, wanted);
+  }
+  EXPECT_EQ(Dump(parent), "[1,2,4;2,3;]");
+  const auto document =
+      Load({.MediaList = Entries("3=b/A;2=c/A;4=b/B"), .PrintModeList = Entries("7=Best;8=Best")});
+  DocumentMembers members(*document);
+  EXPECT_EQ(FindIDByDisplayName("b", members.MediaList), 3);
+  EXPECT_EQ(FindIDByDisplayName("B", members.MediaList), 1);
+  EXPECT_EQ(FindIDByDisplayName("Best", members.PrintModeList), 7);
+  ADWordArray found = ids({9});
+  CollectMediaIDs("A", members.MediaList, found);
+  CollectMediaIDs("a", members.MediaList, found);
+  EXPECT_EQ(Dump(found), "9,3,2");
+}
+
+}  // namespace
