@@ -1,0 +1,113 @@
+#include "qdf/hpimport/update.h"
+
+#include <cerrno>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "qdf/core/documentmembers.h"
+#include "qdf/hpimport/hpresource.h"
+#include "qdf/hpimport/updateddocument.h"
+#include "qdf/support/filestatus.h"
+#include "qdf/support/nothrow.h"
+#include "qdf/support/ownership.h"
+
+namespace {
+
+int TakeOver(APMQDF& document, APMQDF& previous) {
+  DocumentMembers former(previous);
+  double limit[4];
+  double margin[4];
+  previous.GetMediaSizeLimits(limit[0], limit[1], limit[2], limit[3]);
+  previous.GetMinimumMargin(margin[0], margin[1], margin[2], margin[3]);
+  return document.InitiateAPMQDF(previous.GetProdcutType(), previous.GetTranslationTable(),
+                                 previous.GetCustomMediaFile(), limit[0], limit[1], limit[2],
+                                 limit[3], margin[0], margin[1], margin[2], margin[3],
+                                 former.MediaSourceList, former.MediaSizeList,
+                                 former.MarginInfoList, previous.GetMediaSourceTreeRoot());
+}
+
+// Why a derivation has failed: the first list that it could not fill tells.
+UpdateFault FaultOf(APMQDF& document) {
+  const DocumentMembers derived(document);
+  if (derived.InkList.GetSize() == 0) return UpdateFault::NoInk;
+  if (derived.MediaList.GetSize() == 0) return UpdateFault::NoMedia;
+  if (derived.PrintModeList.GetSize() == 0) return UpdateFault::NoPrintMode;
+  return UpdateFault::NoColorMode;
+}
+
+// The answer of the work. One that is short or empty because memory ran out is none.
+template <class Work>
+auto Whole(Work work) {
+  errno = 0;
+  auto answer = work();
+  if (errno == ENOMEM) throw std::bad_alloc();
+  return answer;
+}
+
+UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
+  OwnedItems<HPResourceInfo> resources;
+  const int found = Whole([&] {
+    PMGetHPRecursive(resourceFolder.GetFullPath(), resources);
+    return resources.GetSize();
+  });
+  if (found == 0) return {nullptr, UpdateFault::NoResource};
+  auto document = std::make_unique<APMQDF>();
+  if (Whole([&] { return TakeOver(*document, previous); }) == 0) {
+    return {nullptr, UpdateFault::NoMemory};
+  }
+  DocumentMembers former(previous);
+  const int derived = Whole(
+      [&] { return document->LoadHPResourceInfo(resources, former.InkList, former.MediaList); });
+  if (derived == 0) return {nullptr, FaultOf(*document)};
+  return {std::move(document), UpdateFault::None};
+}
+
+// For as long as it lives a read-only file can be written.
+class Writable {
+ public:
+  explicit Writable(const char* path) : path_(path) {
+    lifted_ = ReadFileStatus(path, former_) && former_.IsReadOnly();
+    if (!lifted_) return;
+    FileStatus writable = former_;
+    writable.mode |= S_IWUSR;
+    WriteFileStatus(path, writable);
+  }
+  ~Writable() {
+    if (lifted_) WriteFileStatus(path_, former_);
+  }
+  Writable(const Writable&) = delete;
+  Writable& operator=(const Writable&) = delete;
+
+ private:
+  const char* path_;
+  FileStatus former_{};
+  bool lifted_;
+};
+
+}  // namespace
+
+UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder) {
+  if (previous == nullptr) return {nullptr, UpdateFault::NoPreviousDocument};
+  UpdatedDocument updated{nullptr, UpdateFault::NoMemory};
+  OrOnNoMemory(0, [&] {
+    updated = Derive(*previous, resourceFolder);
+    return 1;
+  });
+  return updated;
+}
+
+void PMUpdateQDF(AFilePath documentPath, AFilePath resourceFolder) {
+  OrOnNoMemory(0, [&] {
+    AString name;
+    documentPath.getFileName(name);
+    APMQDF* previous = nullptr;
+    PMGetQDFInterfaceFromName(name, &previous);
+    const std::unique_ptr<APMQDF> owner(previous);
+    const UpdatedDocument updated = DeriveUpdatedDocument(previous, resourceFolder);
+    if (updated.document == nullptr) return 0;
+    const Writable lifted(documentPath);
+    updated.document->PMWriteQDF(documentPath);
+    return 1;
+  });
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+// The document that an update would write, and why there is none.
+
+#include <memory>
+
+#include "qdf/core/apmqdf.h"
+#include "qdf/support/afilepath.h"
+
+enum class UpdateFault {
+  None,
+  NoPreviousDocument,
+  NoResource,
+  NoInk,        // in the previous document
+  NoMedia,      // no resource has a display name, or no number is left for a new media
+  NoPrintMode,  // no quality folder's name begins with a known quality
+  NoColorMode,  // no resource has a known ink layout
+  NoMemory,     // or no descriptors
+};
+
+struct UpdatedDocument {
+  std::unique_ptr<APMQDF> document;  // null unless there is no fault
+  UpdateFault fault;
+};
+
+// Derives a document from the resources in and below the folder and from the previous document,
+// which may be null and stays as it is. Touches no file.
+UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder);

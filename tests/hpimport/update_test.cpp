@@ -1,0 +1,201 @@
+#include "qdf/hpimport/update.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "qdf/hpimport/updateddocument.h"
+#include "qdf/support/filestatus.h"
+#include "tests/children.h"
+#include "tests/hpimport/derived.h"
+#include "tests/hpimport/resources.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder with the document of a printer under OutputDrivers, in which the process works.
+class Update : public testing::Test {
+ protected:
+  static constexpr const char* kDocument = "OutputDrivers/plot36.qdf";
+  const TempFolder folder_;
+  const WorkingFolder in_{folder_.Path()};
+  const std::string former_ = ReadFile(QDF_EXAMPLES "/OutputDrivers/plot36.qdf");
+
+  Update() { folder_.Write(kDocument, former_); }
+
+  void AddResource(const Resource& resource) const { WriteResource(folder_, "tree", resource); }
+};
+
+void UpdateFile(const char* document) { PMUpdateQDF(AFilePath(document), AFilePath("tree")); }
+
+TEST_F(Update, GivesADocumentOfResourcesAndWhatTheyDontHold) {
+  AddResource({.media = "Bond", .displayNames = {"Bond"}, .profile = "b.icc"});
+  AddResource({.media = "New", .displayNames = {"New &amp; old"}, .black = 4, .algorithm = 7});
+  const auto previous = LoadFile(kDocument);
+  UpdateFile(kDocument);
+  const auto updated = LoadFile(kDocument);
+  ASSERT_NE(updated, nullptr);
+  const DocumentMembers before(*previous);
+  const DocumentMembers after(*updated);
+  EXPECT_EQ(updated->GetProdcutType(), "plot36");
+  EXPECT_EQ(updated->GetTranslationTable(), previous->GetTranslationTable());
+  EXPECT_EQ(updated->GetCustomMediaFile(), previous->GetCustomMediaFile());
+  EXPECT_EQ(IDs(Records<MediaSizeInfo>(after.MediaSizeList)),
+            IDs(Records<MediaSizeInfo>(before.MediaSizeList)));
+  EXPECT_EQ(after.MarginInfoList.GetSize(), before.MarginInfoList.GetSize());
+  EXPECT_EQ(after.MediaSourceList.GetSize(), before.MediaSourceList.GetSize());
+  EXPECT_EQ(DumpMedia(after.MediaList), "2=Bond/Bond;3=New/New & old");
+  EXPECT_EQ(Dump(after.ControlTreeRoot),
+            "[1>1[2>1[1[1[1,2[0;0>-1;]]]];3>1[1[1[1,3>1[1>1;1>-1;]]]]]]");
+  std::vector<AString> texts;
+  AString chosen;
+  EXPECT_EQ(updated->GetProfileList(1, 3, 1, 1, 3, texts, chosen), 1);
+  EXPECT_EQ(Dump(texts) + "/" + static_cast<const char*>(chosen), "p.icc/p.icc");
+  texts.clear();
+  EXPECT_EQ(updated->GetDitherList(1, 3, 1, 1, 3, texts, chosen), 1);
+  EXPECT_EQ(Dump(texts), "107");
+  EXPECT_EQ(updated->GetOEMInfo(1, 3, 1, 1, 3, chosen), 1);
+  EXPECT_EQ(chosen, "New_best.xml");
+  const std::string bytes = ReadFile(kDocument);
+  UpdateFile(kDocument);
+  EXPECT_EQ(ReadFile(kDocument), bytes);
+}
+
+TEST_F(Update, TakesThePreviousDocumentByNameAndWritesWhereItIsTold) {
+  AddResource({});
+  fs::create_directory("elsewhere");
+  UpdateFile("elsewhere/plot36.qdf");
+  UpdateFile("elsewhere/unknown.qdf");
+  EXPECT_NE(LoadFile("elsewhere/plot36.qdf"), nullptr);
+  EXPECT_FALSE(fs::exists("elsewhere/unknown.qdf"));
+  EXPECT_EQ(ReadFile(kDocument), former_);
+}
+
+TEST_F(Update, KeepsTheIdsOfALocalisedDocument) {
+  AddResource({.media = "Bond", .displayNames = {"Bond"}});
+  const auto previous = LoadFile(kDocument);
+  const DocumentMembers members(*previous);
+  for (int i = 0; i < members.MediaList.GetSize(); ++i) {
+    SetField(static_cast<MediaTypeInfo*>(members.MediaList[i])->DisplayName, "Papier");
+  }
+  const UpdatedDocument updated = DeriveUpdatedDocument(previous.get(), AFilePath("tree"));
+  ASSERT_NE(updated.document, nullptr);
+  EXPECT_EQ(DumpMedia(DocumentMembers(*updated.document).MediaList), "2=Bond/Bond");
+}
+
+TEST_F(Update, TouchesNothingWithoutAWholeDocument) {
+  struct Row {
+    UpdateFault fault;
+    Resource resource;
+  };
+  const Row rows[] = {
+      {UpdateFault::NoResource, {.quality = "best/deeper"}},
+      {UpdateFault::NoMedia, {.displayNames = {}}},
+      {UpdateFault::NoPrintMode, {.quality = "Photo"}},
+      {UpdateFault::NoColorMode, {.format = "RGB"}},
+  };
+  const auto previous = LoadFile(kDocument);
+  const auto written = fs::last_write_time(kDocument);
+  for (const Row& row : rows) {
+    fs::remove_all("tree");
+    AddResource(row.resource);
+    const UpdatedDocument updated = DeriveUpdatedDocument(previous.get(), AFilePath("tree"));
+    EXPECT_EQ(updated.fault, row.fault);
+    EXPECT_EQ(updated.document, nullptr);
+    UpdateFile(kDocument);
+    EXPECT_EQ(ReadFile(kDocument), former_);
+    EXPECT_EQ(fs::last_write_time(kDocument), written);
+  }
+  EXPECT_EQ(DeriveUpdatedDocument(nullptr, AFilePath("tree")).fault,
+            UpdateFault::NoPreviousDocument);
+  EXPECT_EQ(DeriveUpdatedDocument(previous.get(), AFilePath("missing")).fault,
+            UpdateFault::NoResource);
+  APMQDF empty;
+  EXPECT_EQ(DeriveUpdatedDocument(&empty, AFilePath("tree")).fault, UpdateFault::NoInk);
+}
+
+// Resources that could not be looked for are not taken for gone.
+TEST_F(Update, FailsAsAWholeWhenDescriptorsRunOut) {
+  AddResource({});
+  const auto previous = LoadFile(kDocument);
+  // Once with all that there are: a sanitizer needs some to learn the types that it sees.
+  ASSERT_NE(DeriveUpdatedDocument(previous.get(), AFilePath("tree")).document, nullptr);
+  const auto faultWithDescriptors = [&](unsigned int count) {
+    return InChild([&] {
+      const int next = dup(STDERR_FILENO);
+      close(next);
+      const rlimit few{static_cast<rlim_t>(next) + count, static_cast<rlim_t>(next) + count};
+      setrlimit(RLIMIT_NOFILE, &few);
+      return static_cast<int>(DeriveUpdatedDocument(previous.get(), AFilePath("tree")).fault);
+    });
+  };
+  for (unsigned int count = 0; count < 3; ++count) {
+    EXPECT_EQ(faultWithDescriptors(count), static_cast<int>(UpdateFault::NoMemory)) << count;
+  }
+  EXPECT_EQ(faultWithDescriptors(3), static_cast<int>(UpdateFault::None));
+}
+
+TEST_F(Update, LeavesAReadOnlyFileAsReadOnlyAndAsOldAsItWas) {
+  const FileStatus former{0440, {1000, 5}, {2000, 7}};
+  const auto isAsBefore = [&] {
+    FileStatus status{};
+    ReadFileStatus(kDocument, status);
+    return status.mode == former.mode && status.modified.tv_sec == former.modified.tv_sec &&
+           status.modified.tv_nsec == former.modified.tv_nsec;
+  };
+  AddResource({});
+  ASSERT_TRUE(WriteFileStatus(kDocument, former));
+  EXPECT_EQ(InChild([&] {
+              LimitFileSizes(100);
+              UpdateFile(kDocument);
+              return isAsBefore() ? 0 : 1;
+            }),
+            0);
+  EXPECT_EQ(ReadFile(kDocument), former_);
+  ASSERT_TRUE(WriteFileStatus(kDocument, former));
+  UpdateFile(kDocument);
+  EXPECT_TRUE(isAsBefore());
+  EXPECT_NE(ReadFile(kDocument), former_);
+  // A file that somebody may write gets a new time.
+  ASSERT_TRUE(WriteFileStatus(kDocument, {0460, former.accessed, former.modified}));
+  UpdateFile(kDocument);
+  FileStatus status{};
+  ReadFileStatus(kDocument, status);
+  EXPECT_EQ(status.mode, 0460U);
+  EXPECT_GT(status.modified.tv_sec, former.modified.tv_sec);
+}
+
+TEST(InitiateAPMQDF, TakesDeepCopies) {
+  auto previous =
+      Load({.Definition = "<MediaSizeList>" + Entries("3=A4") + "</MediaSizeList>" +
+                          "<MarginInfoList>" + Entries("4=m") + "</MarginInfoList>" +
+                          "<MediaSourceList>" + Entries("2=Tray") + "</MediaSourceList>",
+            .SourceControl = SourceControl(">2[2>3[3[4>4]]]")});
+  APMQDF document;
+  APtrArray none;
+  EXPECT_EQ(
+      document.InitiateAPMQDF("a", "b", "c", 1, 2, 3, 4, 5, 6, 7, 8, none, none, none, nullptr), 1);
+  DocumentMembers former(*previous);
+  EXPECT_EQ(document.InitiateAPMQDF("a", "b", "c", 1, 2, 3, 4, 5, 6, 7, 8, former.MediaSourceList,
+                                    former.MediaSizeList, former.MarginInfoList,
+                                    previous->GetMediaSourceTreeRoot()),
+            1);
+  previous.reset();
+  const DocumentMembers members(document);
+  EXPECT_EQ(Dump(members.MediaSourceTreeRoot), ">2[2>3[3[4>4]]]");
+  EXPECT_EQ(Str(Records<MediaSourceInfo>(members.MediaSourceList)[0].DisplayName), "Tray");
+  EXPECT_EQ(Str(Records<MediaSizeInfo>(members.MediaSizeList)[0].DisplayName), "A4");
+  EXPECT_EQ(Records<MarginInfo>(members.MarginInfoList)[0].ID, 4);
+  double n[8];
+  document.GetMediaSizeLimits(n[0], n[1], n[2], n[3]);
+  document.GetMinimumMargin(n[4], n[5], n[6], n[7]);
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(n[i], i + 1);
+  EXPECT_EQ(
+      document.GetProdcutType() + document.GetTranslationTable() + document.GetCustomMediaFile(),
+      "abc");
+}
+
+}  // namespace
