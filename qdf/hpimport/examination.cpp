@@ -1,0 +1,98 @@
+#include <string_view>
+
+#include "qdf/hpimport/resourcefile.h"
+#include "qdf/hpimport/resourcename.h"
+#include "qdf/hpimport/sweepsteps.h"
+#include "qdf/support/directorysearch.h"
+#include "qdf/support/nothrow.h"
+#include "qdf/support/numbers.h"
+#include "qdf/support/text.h"
+
+namespace {
+
+constexpr int kMediaLevel = 1;
+
+// Profiles of the whole tree; no media.
+constexpr std::string_view kProfileFolder = "output_icc";
+
+AString PathIn(const AString& folder, const DirectoryEntry& entry) {
+  AFilePath path(folder);
+  path += entry.name.c_str();
+  return path.GetFullPath();
+}
+
+FolderVerdict Fault(FolderFault fault, const AString& path) {
+  FolderVerdict verdict;
+  verdict.fault = fault;
+  verdict.path = path;
+  return verdict;
+}
+
+FolderVerdict ExamineResource(const AString& file) {
+  AFilePath path(file);
+  AXMLTree tree("RootElement");
+  if (!LoadResourceTree(tree, path)) {
+    FolderVerdict verdict = Fault(FolderFault::NotXML, file);
+    verdict.xmlFault = tree.loadFault();
+    return verdict;
+  }
+  AXMLTreeNode root;
+  tree.getRootNode(root);
+  const char* text = tree.attributeText(root, "release");
+  const double release = ReadDouble(text);
+  if (release >= 2.0 && release < 3.0) return {};
+  FolderVerdict verdict = Fault(FolderFault::WrongRelease, file);
+  verdict.release = text;
+  return verdict;
+}
+
+bool IsResource(const DirectoryEntry& entry, const AString& path) {
+  ResourceName name;
+  if (entry.kind != EntryKind::File || !IsResourcePath(View(path), name)) return false;
+  const bool exists = AFilePath(path).exists() != 0;
+  if (!exists) ThrowIfWithoutMeans();
+  return exists;
+}
+
+FolderVerdict ExamineEntry(const DirectoryEntry& entry, const AString& path, int level,
+                           bool& hasResource) {
+  const bool isFolder = entry.kind == EntryKind::Folder;
+  if (level == kMediaLevel) {
+    return isFolder ? ExamineHPFolder(path, level + 1) : Fault(FolderFault::FileInMedia, path);
+  }
+  if (isFolder) return Fault(FolderFault::FolderInQuality, path);
+  if (!IsResource(entry, path)) return {};
+  hasResource = true;
+  return ExamineResource(path);
+}
+
+}  // namespace
+
+FolderVerdict ExamineHPFolder(const AString& folder, int level) {
+  std::vector<DirectoryEntry> entries;
+  if (!SearchFolder(folder, entries)) return Fault(FolderFault::Unsearchable, folder);
+  if (entries.empty()) return Fault(FolderFault::Empty, folder);
+  bool hasResource = false;
+  for (const DirectoryEntry& entry : entries) {
+    FolderVerdict verdict = ExamineEntry(entry, PathIn(folder, entry), level, hasResource);
+    if (!verdict.IsSound()) return verdict;
+  }
+  const bool lacksResource = level != kMediaLevel && !hasResource;
+  return lacksResource ? Fault(FolderFault::NoResource, folder) : FolderVerdict();
+}
+
+std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder) {
+  std::vector<MediaFolder> media;
+  std::vector<DirectoryEntry> entries;
+  SearchFolder(folder, entries);
+  for (const DirectoryEntry& entry : entries) {
+    if (entry.kind != EntryKind::Folder || EqualNoCase(entry.name, kProfileFolder)) continue;
+    const AString path = PathIn(folder.GetFullPath(), entry);
+    media.push_back({entry.name.c_str(), path, ExamineHPFolder(path, kMediaLevel)});
+  }
+  return media;
+}
+
+int CheckHPFolder(AString folder, int level) {
+  return OrOnNoMemory(0, [&] { return ExamineHPFolder(folder, level).IsSound() ? 0 : 1; });
+}

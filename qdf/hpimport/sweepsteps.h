@@ -1,0 +1,51 @@
+#pragma once
+
+// The steps of a sweep: what is wrong with a folder of HP resources, and its removal.
+
+#include <vector>
+
+#include "qdf/support/afilepath.h"
+#include "qdf/support/astring.h"
+#include "qdf/support/axmltree.h"
+
+enum class FolderFault {
+  None,
+  Unsearchable,  // it is no folder or can't be read
+  Empty,         // nothing lies in it
+  FileInMedia,   // a media folder holds something that is no folder
+  FolderInQuality,
+  NoResource,    // a quality folder holds no resource file; a link is none
+  NotXML,        // a resource file can't be read or isn't well formed
+  WrongRelease,  // its release is missing, below 2, or 3 and more
+};
+
+// What is wrong with a folder: the first fault, in the order of a search, ends its examination.
+struct FolderVerdict {
+  FolderFault fault = FolderFault::None;
+  AString path;        // of the folder or file that gave the fault, empty without one
+  AXMLFault xmlFault;  // of a file that is NotXML
+  AString release;     // of a file with the WrongRelease, as it stands there
+
+  bool IsSound() const { return fault == FolderFault::None; }
+};
+
+struct MediaFolder {
+  AString name;
+  AString path;
+  FolderVerdict verdict;
+};
+
+// The media folders that a sweep of the folder examines, in the order of a search, with what it
+// finds. Changes nothing. A lack of memory or descriptors throws bad_alloc.
+std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder);
+
+// Level 1 means a media folder, and level 2 a quality folder. Throws as well.
+FolderVerdict ExamineHPFolder(const AString& folder, int level);
+
+// 1 when the folder has a fault, else 0; 0 also when memory or descriptors run out, so that nothing
+// is deleted for the lack of them.
+int CheckHPFolder(AString folder, int level);
+
+// Deletes a folder with all that it holds. A link to a folder is left alone, with what is behind
+// it. What can't be deleted stays, with the folders around it.
+void RemoveFolderTree(const char* folder);

@@ -1,0 +1,147 @@
+#include "qdf/hpimport/sweep.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "qdf/hpimport/sweepsteps.h"
+#include "tests/children.h"
+#include "tests/hpimport/resources.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Makes files and, of names that end in "/", folders. A name may have "=" and a release behind it.
+void Make(const TempFolder& folder, const std::vector<std::string>& names) {
+  for (const std::string& name : names) {
+    const std::size_t equals = name.find('=');
+    if (name.back() == '/') {
+      fs::create_directories(folder.Path(name));
+    } else if (equals == std::string::npos) {
+      folder.Write(name, "");
+    } else {
+      folder.Write(name.substr(0, equals),
+                   Join({"<r release='", name.substr(equals + 1), "'/>"}, ""));
+    }
+  }
+}
+
+void Sweep(const std::string& folder) {
+  AFilePath path(folder.c_str());
+  PMCheckHPXMLVersion(path);
+}
+
+TEST(Sweep, ExaminesAMediaFolderToItsFirstFault) {
+  struct Row {
+    std::vector<std::string> files;
+    FolderFault fault;
+    std::string path;  // that gave it, below the folder
+  };
+  const Row rows[] = {
+      {{"M/q/M_q.xml=2.0"}, FolderFault::None, ""},
+      {{"M/q/m_Q.XML=2.99", "M/q/other", "M/q/x.xml=1", "M/r/M_r.xml=2"}, FolderFault::None, ""},
+      {{"M/"}, FolderFault::Empty, "M"},
+      {{"M/q/", "M/r/M_r.xml=2"}, FolderFault::Empty, "M/q"},
+      {{"M/q/M_q.xml=2", "M/.hidden"}, FolderFault::FileInMedia, "M/.hidden"},
+      {{"M/q/M_q.xml=2", "M/q/sub/"}, FolderFault::FolderInQuality, "M/q/sub"},
+      {{"M/q/q_M.xml=2", "M/r/M_r.xml=2"}, FolderFault::NoResource, "M/q"},
+      {{"M/q/M_q.xml"}, FolderFault::NotXML, "M/q/M_q.xml"},
+      {{"M/q/M_q.xml=3.0"}, FolderFault::WrongRelease, "M/q/M_q.xml"},
+      {{"M/q/M_q.xml=1.99"}, FolderFault::WrongRelease, "M/q/M_q.xml"},
+      {{"M/q/M_q.xml="}, FolderFault::WrongRelease, "M/q/M_q.xml"},
+      {{"M/q/M_q.xml=nan"}, FolderFault::WrongRelease, "M/q/M_q.xml"},
+      {{"M/q/M_q.xml=2", "M/q/M_q.XML=1"}, FolderFault::WrongRelease, "M/q/M_q.XML"},
+      {{"M"}, FolderFault::Unsearchable, "M"},
+  };
+  for (const Row& row : rows) {
+    const TempFolder folder;
+    Make(folder, row.files);
+    const AString media = folder.Path("M").c_str();
+    const FolderVerdict verdict = ExamineHPFolder(media, 1);
+    EXPECT_EQ(verdict.fault, row.fault) << row.files[0];
+    EXPECT_EQ(verdict.path, row.path.empty() ? "" : folder.Path(row.path).c_str());
+    EXPECT_EQ(CheckHPFolder(media, 1), row.fault == FolderFault::None ? 0 : 1);
+  }
+}
+
+TEST(Sweep, TellsWhatIsWrongInsideAFile) {
+  const TempFolder folder;
+  folder.Write("M/q/M_q.xml", "<r>\n<");
+  folder.Write("M/r/M_r.xml", "<r release='one'/>");
+  EXPECT_EQ(ExamineHPFolder(folder.Path("M/q").c_str(), 2).xmlFault.Line, 2);
+  EXPECT_EQ(ExamineHPFolder(folder.Path("M/r").c_str(), 2).release, "one");
+}
+
+TEST(Sweep, DeletesUnsoundMediaFoldersAndNothingElse) {
+  const TempFolder folder;
+  Make(folder, {"Good/q/Good_q.xml=2", "Old/q/Old_q.xml=1.5", "Old/r/Old_r.xml=2", "Bad/deep/er/x",
+                "Empty/", "file", "Output_ICC/profile.icc"});
+  const auto examined = ExamineMediaFolders(AFilePath(folder.Path().c_str()));
+  std::vector<std::string> names;
+  for (const MediaFolder& media : examined) {
+    names.push_back(
+        Join({static_cast<const char*>(media.name), media.verdict.IsSound() ? "" : "!"}, ""));
+  }
+  EXPECT_EQ(Join(names, " "), "Bad! Empty! Good Old!");
+  Sweep(folder.Path() + "/");
+  names.clear();
+  for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+    names.push_back(entry.path().filename());
+  }
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(Join(names, " "), "Good Good_q.xml Output_ICC file profile.icc q");
+  Sweep(folder.Path("missing"));
+  Sweep("");
+}
+
+TEST(Sweep, NeverGoesThroughALink) {
+  const TempFolder outside;
+  Make(outside, {"Mine/q/Mine_q.xml=1", "Linked/q/Linked_q.xml=2"});
+  const TempFolder folder;
+  Make(folder, {"M/q/", "N/", "O/"});
+  fs::create_directory_symlink(outside.Path("Mine"), folder.Path("top"));
+  fs::create_symlink(outside.Path("Linked/q/Linked_q.xml"), folder.Path("M/q/M_q.xml"));
+  fs::create_directory_symlink(outside.Path("Linked/q"), folder.Path("N/q"));
+  fs::create_directory_symlink("..", folder.Path("O/loop"));
+  EXPECT_EQ(ExamineHPFolder(folder.Path("M").c_str(), 1).fault, FolderFault::NoResource);
+  EXPECT_EQ(ExamineHPFolder(folder.Path("N").c_str(), 1).fault, FolderFault::FileInMedia);
+  RemoveFolderTree((folder.Path("top") + "/").c_str());
+  Sweep(folder.Path());
+  EXPECT_TRUE(fs::exists(outside.Path("Mine/q/Mine_q.xml")));
+  EXPECT_TRUE(fs::exists(outside.Path("Linked/q/Linked_q.xml")));
+  std::vector<std::string> left;
+  for (const auto& entry : fs::directory_iterator(folder.Path())) {
+    left.push_back(entry.path().filename());
+  }
+  EXPECT_EQ(Join(left, " "), "top");
+  // The swept folder itself may be reached through a link.
+  fs::create_directory_symlink(outside.Path(), folder.Path("link"));
+  Sweep(folder.Path("link"));
+  EXPECT_FALSE(fs::exists(outside.Path("Mine")));
+  EXPECT_TRUE(fs::exists(outside.Path("Linked")));
+}
+
+TEST(Sweep, GoesOnAfterWhatItCantDelete) {
+  const TempFolder folder;
+  Make(folder, {"A/kept/file", "A/z/file", "B/file"});
+  const auto allow = [&](const char* name, mode_t mode) {
+    ASSERT_EQ(chmod(folder.Path(name).c_str(), mode), 0);
+  };
+  for (const char* name : {"", "A", "A/z", "B"}) allow(name, 0777);
+  allow("A/kept", 0555);
+  EXPECT_EQ(InChild([&] {
+              DropPrivileges();
+              Sweep(folder.Path());
+              return 0;
+            }),
+            0);
+  EXPECT_TRUE(fs::exists(folder.Path("A/kept/file")));
+  EXPECT_FALSE(fs::exists(folder.Path("A/z")));
+  EXPECT_FALSE(fs::exists(folder.Path("B")));
+  allow("A/kept", 0777);
+}
+
+}  // namespace
