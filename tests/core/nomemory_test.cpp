@@ -9,7 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "qdf/hpimport/sweep.h"
+#include "qdf/hpimport/sweepsteps.h"
+#include "qdf/hpimport/update.h"
 #include "tests/documents.h"
+#include "tests/files.h"
+#include "tests/hpimport/resources.h"
 
 namespace {
 
@@ -36,6 +41,7 @@ void* AllocateOrThrow(std::size_t size) {
 
 void* operator new(std::size_t size) { return AllocateOrThrow(size); }
 void* operator new[](std::size_t size) { return AllocateOrThrow(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
@@ -135,6 +141,47 @@ TEST(NoMemory, QuestionsGiveNothing) {
                                                                                               : 0;
       },
       [](int copied) { EXPECT_EQ(copied, 0); });
+}
+
+TEST(NoMemory, UpdatesWriteAllOrNothingAndSweepsDeleteNothingSound) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  WriteResource(folder, "tree", {});
+  folder.Write("OutputDrivers/d.qdf", ReadFile(QDF_EXAMPLES "/OutputDrivers/dyesub6.qdf"));
+  // Short enough to be copied without memory.
+  const AFilePath document("d.qdf");
+  AFilePath tree("tree");
+  PMUpdateQDF(document, tree);
+  const std::string whole = ReadFile("d.qdf");
+  EXPECT_NE(LoadFile("d.qdf"), nullptr);
+  const pugi::allocation_function allocate = pugi::get_memory_allocation_function();
+  const pugi::deallocation_function release = pugi::get_memory_deallocation_function();
+  pugi::set_memory_management_functions(Allocate, std::free);
+  WriteFile("d.qdf", "former");
+  Exhaust(
+      "update",
+      [&] {
+        PMUpdateQDF(document, tree);
+        return 0;
+      },
+      [&](int) {
+        // A sort does without the memory that it asks for.
+        const std::string bytes = ReadFile("d.qdf");
+        EXPECT_TRUE(bytes == "former" || bytes == whole) << bytes.size();
+        WriteFile("d.qdf", "former");
+      });
+  EXPECT_EQ(ReadFile("d.qdf"), whole);
+  Exhaust(
+      "sweep",
+      [&] {
+        PMCheckHPXMLVersion(tree);
+        return CheckHPFolder("tree/Glossy", 1);
+      },
+      [](int fault) {
+        EXPECT_EQ(fault, 0);
+        EXPECT_NE(AFilePath("tree/Glossy/best/Glossy_best.xml").exists(), 0);
+      });
+  pugi::set_memory_management_functions(allocate, release);
 }
 
 }  // namespace
