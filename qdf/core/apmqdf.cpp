@@ -5,6 +5,7 @@
 
 #include "qdf/control/ditherlist.h"
 #include "qdf/control/readers.h"
+#include "qdf/core/guarded.h"
 #include "qdf/definition/readers.h"
 #include "qdf/support/axmltree.h"
 #include "qdf/support/nothrow.h"
@@ -42,7 +43,7 @@ APMQDF::~APMQDF() {
 }
 
 int APMQDF::LoadQDFFile(AFilePath& path) {
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     // The name of the root is only a placeholder: the file's root takes its place.
     AXMLTree tree("RootElement");
     return tree.loadFromFile(path, 1) != 0 ? ParseFromXMLTree(&tree) : 0;
@@ -51,7 +52,7 @@ int APMQDF::LoadQDFFile(AFilePath& path) {
 
 // The lists come before the trees, since a tree keeps only ids that its lists hold.
 int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     ReadText(tree, "ProductType", ProductType);
     ReadText(tree, "TranslationTable", TranslationTable);
     ReadText(tree, "CustomMediaFile", CustomMediaFile);
@@ -87,20 +88,20 @@ int APMQDF::PMGetMediaLimits(AXMLTree* tree) {
 }
 
 AString APMQDF::GetProdcutType() {
-  return OrOnNoMemory(AString(), [&] { return ProductType; });
+  return Guarded(AString(), [&] { return ProductType; });
 }
 
 AString APMQDF::GetTranslationTable() {
-  return OrOnNoMemory(AString(), [&] { return TranslationTable; });
+  return Guarded(AString(), [&] { return TranslationTable; });
 }
 
 AString APMQDF::GetCustomMediaFile() {
-  return OrOnNoMemory(AString(), [&] { return CustomMediaFile; });
+  return Guarded(AString(), [&] { return CustomMediaFile; });
 }
 
 bool APMQDF::PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target) {
   if (source == nullptr) return false;
-  return OrOnNoMemory(false, [&] {
+  return Guarded(false, [&] {
     target->Default = source->Default;
     target->IDs.Append(source->IDs);
     const int count = source->Children.GetSize();

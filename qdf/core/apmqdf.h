@@ -207,6 +207,12 @@ class APMQDF_EXPORT APMQDF {
   CQDFNode MediaSourceTreeRoot;
   double MediaSizeLimits[4] = {};
   double MinimumMargins[4] = {};
+
+  // The answer of the work, or `failure` and LackedMemory set when memory ran out: some answers
+  // look the same in both cases, and the writer must not take the one for the other.
+  template <class Result, class Work>
+  Result Guarded(Result failure, Work work);
+  bool LackedMemory = false;
 };
 
 extern "C" {

@@ -20,7 +20,8 @@ struct DocumentMembers {
         DitherNameList(document.DitherNameList),
         DitherResolutionList(document.DitherResolutionList),
         ControlTreeRoot(document.ControlTreeRoot),
-        MediaSourceTreeRoot(document.MediaSourceTreeRoot) {}
+        MediaSourceTreeRoot(document.MediaSourceTreeRoot),
+        LackedMemory(document.LackedMemory) {}
 
   APtrArray& InkList;
   APtrArray& MediaList;
@@ -36,4 +37,5 @@ struct DocumentMembers {
   APtrArray& DitherResolutionList;
   CQDFNode& ControlTreeRoot;
   CQDFNode& MediaSourceTreeRoot;
+  bool& LackedMemory;
 };

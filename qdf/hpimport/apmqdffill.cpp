@@ -3,12 +3,11 @@
 
 #include <memory>
 
-#include "qdf/core/apmqdf.h"
+#include "qdf/core/guarded.h"
 #include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/derivecontroltree.h"
 #include "qdf/hpimport/derivelists.h"
 #include "qdf/hpimport/records.h"
-#include "qdf/support/nothrow.h"
 #include "qdf/support/ownership.h"
 
 namespace {
@@ -28,7 +27,7 @@ void Store(double (&target)[N], const double (&numbers)[N]) {
 
 int APMQDF::LoadHPResourceInfo(APtrArray& resources, APtrArray& oldInks, APtrArray& oldMedia) {
   if (oldInks.GetSize() == 0) return 0;
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     AppendCopies<InkTypeInfo>(InkList, oldInks);
     const bool complete = DeriveMediaList(resources, MediaList, oldMedia) != 0 &&
                           DerivePrintModeList(resources, PrintModeList) != 0 &&
@@ -46,7 +45,7 @@ int APMQDF::InitiateAPMQDF(const AString& productType, const AString& translatio
                            double limit3, double limit4, double margin1, double margin2,
                            double margin3, double margin4, APtrArray& mediaSources,
                            APtrArray& mediaSizes, APtrArray& margins, CQDFNode* mediaSourceRoot) {
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     ProductType = productType;
     TranslationTable = translationTable;
     CustomMediaFile = customMediaFile;

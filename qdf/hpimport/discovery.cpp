@@ -20,12 +20,16 @@ void LoadIfResource(const std::string& path, APtrArray& records) {
 
 }  // namespace
 
+void CollectHPResources(const AString& folder, APtrArray& records) {
+  FolderWalk walk(OpenFolder(folder), static_cast<const char*>(folder));
+  while (walk.Next()) {
+    if (walk.Entry().kind == EntryKind::File) LoadIfResource(walk.Path(), records);
+  }
+}
+
 void PMGetHPRecursive(AString folder, APtrArray& records) {
   OrOnNoMemory(0, [&] {
-    FolderWalk walk(OpenFolder(folder), static_cast<const char*>(folder));
-    while (walk.Next()) {
-      if (walk.Entry().kind == EntryKind::File) LoadIfResource(walk.Path(), records);
-    }
+    CollectHPResources(folder, records);
     return 1;
   });
 }

@@ -34,7 +34,7 @@ extern "C" {
 // The order is the same on every file system: entries of a folder by their upper-cased names, a
 // subfolder with all that it holds at its place. Links are neither followed nor read; a folder or
 // file that can't be read is passed over. When memory or descriptors run out, the records until
-// then are all, and errno is ENOMEM.
+// then are all.
 APMQDF_EXPORT void PMGetHPRecursive(AString folder, APtrArray& records);
 
 }  // extern "C"

@@ -1,7 +1,6 @@
 #include "qdf/hpimport/resourcefile.h"
 
 #include <bit>
-#include <cerrno>
 #include <memory>
 #include <utility>
 
@@ -55,9 +54,8 @@ int ParseHPResourceFile(AXMLTree* tree, HPResourceInfo* record) {
 }
 
 bool LoadResourceTree(AXMLTree& tree, AFilePath& path) {
-  errno = 0;
   const bool loaded = tree.loadFromFile(path, 1) != 0;
-  if (!loaded) ThrowIfWithoutMeans();
+  if (!loaded && tree.loadFault().LackedMeans) throw std::bad_alloc();
   return loaded;
 }
 

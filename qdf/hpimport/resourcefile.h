@@ -6,6 +6,9 @@
 #include "qdf/support/afilepath.h"
 #include "qdf/support/axmltree.h"
 
+// What PMGetHPRecursive does, but a lack of memory or descriptors throws bad_alloc.
+void CollectHPResources(const AString& folder, APtrArray& records);
+
 // Loads the file into the tree; false when it can't be read or isn't well-formed XML. A lack of
 // memory or descriptors throws bad_alloc, so that nobody takes a file for a bad one because of it.
 bool LoadResourceTree(AXMLTree& tree, AFilePath& path);

@@ -1,12 +1,12 @@
 #include "qdf/hpimport/update.h"
 
-#include <cerrno>
 #include <memory>
 #include <new>
 #include <utility>
 
 #include "qdf/core/documentmembers.h"
 #include "qdf/hpimport/hpresource.h"
+#include "qdf/hpimport/resourcefile.h"
 #include "qdf/hpimport/updateddocument.h"
 #include "qdf/support/filestatus.h"
 #include "qdf/support/nothrow.h"
@@ -27,39 +27,30 @@ int TakeOver(APMQDF& document, APMQDF& previous) {
                                  former.MarginInfoList, previous.GetMediaSourceTreeRoot());
 }
 
-// Why a derivation has failed: the first list that it could not fill tells.
+// Why a derivation has failed: the first list that it could not fill tells, unless memory ran out.
 UpdateFault FaultOf(APMQDF& document) {
   const DocumentMembers derived(document);
+  if (derived.LackedMemory) return UpdateFault::NoMemory;
   if (derived.InkList.GetSize() == 0) return UpdateFault::NoInk;
   if (derived.MediaList.GetSize() == 0) return UpdateFault::NoMedia;
   if (derived.PrintModeList.GetSize() == 0) return UpdateFault::NoPrintMode;
   return UpdateFault::NoColorMode;
 }
 
-// The answer of the work. One that is short or empty because memory ran out is none.
-template <class Work>
-auto Whole(Work work) {
-  errno = 0;
-  auto answer = work();
-  if (errno == ENOMEM) throw std::bad_alloc();
-  return answer;
-}
-
 UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
   OwnedItems<HPResourceInfo> resources;
-  const int found = Whole([&] {
-    PMGetHPRecursive(resourceFolder.GetFullPath(), resources);
-    return resources.GetSize();
-  });
-  if (found == 0) return {nullptr, UpdateFault::NoResource};
+  CollectHPResources(resourceFolder.GetFullPath(), resources);
+  if (resources.GetSize() == 0) return {nullptr, UpdateFault::NoResource};
   auto document = std::make_unique<APMQDF>();
-  if (Whole([&] { return TakeOver(*document, previous); }) == 0) {
+  DocumentMembers former(previous);
+  // A text that was empty for lack of memory would be taken over as an empty one.
+  former.LackedMemory = false;
+  if (TakeOver(*document, previous) == 0 || former.LackedMemory) {
     return {nullptr, UpdateFault::NoMemory};
   }
-  DocumentMembers former(previous);
-  const int derived = Whole(
-      [&] { return document->LoadHPResourceInfo(resources, former.InkList, former.MediaList); });
-  if (derived == 0) return {nullptr, FaultOf(*document)};
+  if (document->LoadHPResourceInfo(resources, former.InkList, former.MediaList) == 0) {
+    return {nullptr, FaultOf(*document)};
+  }
   return {std::move(document), UpdateFault::None};
 }
 

@@ -1,6 +1,6 @@
 // The cascade from ink to colour mode, and the whole lists beside it.
 
-#include "qdf/core/apmqdf.h"
+#include "qdf/core/guarded.h"
 #include "qdf/query/recordlists.h"
 #include "qdf/query/treewalk.h"
 
@@ -13,63 +13,75 @@ int AppendNextLevel(const CQDFNode& root, std::initializer_list<int> ids, const 
   defaultPosition = 0;
   const CQDFNode* node = FindPath(root, ids);
   if (node == nullptr) return 0;
-  return OrOnNoMemory(0, [&] {
-    return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
-  });
+  return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
 }
 
 }  // namespace
 
 int APMQDF::GetInkTypeList(std::vector<InkTypeInfo>& inks, int& defaultPosition) {
   defaultPosition = 0;
-  for (int i = 0; i < InkList.GetSize(); ++i) {
-    const int id = static_cast<const InkTypeInfo*>(InkList.GetAt(i))->ID;
-    if (id == ControlTreeRoot.Default) defaultPosition = i;
-  }
-  return AppendAll(InkList, inks);
+  return Guarded(0, [&] {
+    const int result = AppendAll(InkList, inks);
+    for (int i = 0; i < InkList.GetSize(); ++i) {
+      const int id = static_cast<const InkTypeInfo*>(InkList.GetAt(i))->ID;
+      if (id == ControlTreeRoot.Default) defaultPosition = i;
+    }
+    return result;
+  });
 }
 
 int APMQDF::GetMediaTypeList(const int& ink, std::vector<MediaTypeInfo>& media,
                              int& defaultPosition) {
-  return AppendNextLevel(ControlTreeRoot, {ink}, MediaList, media, defaultPosition);
+  return Guarded(0, [&] {
+    return AppendNextLevel(ControlTreeRoot, {ink}, MediaList, media, defaultPosition);
+  });
 }
 
 int APMQDF::GetPrintModeList(const int& ink, const int& media,
                              std::vector<PrintModeInfo>& printModes, int& defaultPosition) {
-  return AppendNextLevel(ControlTreeRoot, {ink, media}, PrintModeList, printModes, defaultPosition);
+  return Guarded(0, [&] {
+    return AppendNextLevel(ControlTreeRoot, {ink, media}, PrintModeList, printModes,
+                           defaultPosition);
+  });
 }
 
 int APMQDF::GetResolutionList(const int& ink, const int& media, const int& printMode,
                               std::vector<ResolutionInfo>& resolutions, int& defaultPosition) {
-  return AppendNextLevel(ControlTreeRoot, {ink, media, printMode}, ResolutionList, resolutions,
-                         defaultPosition);
+  return Guarded(0, [&] {
+    return AppendNextLevel(ControlTreeRoot, {ink, media, printMode}, ResolutionList, resolutions,
+                           defaultPosition);
+  });
 }
 
 int APMQDF::GetColorModeList(const int& ink, const int& media, const int& printMode,
                              const int& resolution, std::vector<ColorModeInfo>& colorModes,
                              int& defaultPosition) {
-  return AppendNextLevel(ControlTreeRoot, {ink, media, printMode, resolution}, ColorModeList,
-                         colorModes, defaultPosition);
+  return Guarded(0, [&] {
+    return AppendNextLevel(ControlTreeRoot, {ink, media, printMode, resolution}, ColorModeList,
+                           colorModes, defaultPosition);
+  });
 }
 
-int APMQDF::GetFullInkTypeList(std::vector<InkTypeInfo>& inks) { return AppendAll(InkList, inks); }
+int APMQDF::GetFullInkTypeList(std::vector<InkTypeInfo>& inks) {
+  return Guarded(0, [&] { return AppendAll(InkList, inks); });
+}
 
 int APMQDF::GetFullMediaTypeList(std::vector<MediaTypeInfo>& media) {
-  return AppendAll(MediaList, media);
+  return Guarded(0, [&] { return AppendAll(MediaList, media); });
 }
 
 int APMQDF::GetFullPrintModeList(std::vector<PrintModeInfo>& printModes) {
-  return AppendAll(PrintModeList, printModes);
+  return Guarded(0, [&] { return AppendAll(PrintModeList, printModes); });
 }
 
 int APMQDF::GetFullResolutionList(std::vector<ResolutionInfo>& resolutions) {
-  return AppendAll(ResolutionList, resolutions);
+  return Guarded(0, [&] { return AppendAll(ResolutionList, resolutions); });
 }
 
 int APMQDF::GetFullColorModeInfoList(std::vector<ColorModeInfo>& colorModes) {
-  return AppendAll(ColorModeList, colorModes);
+  return Guarded(0, [&] { return AppendAll(ColorModeList, colorModes); });
 }
 
 int APMQDF::GetFullMediaSourceInfoList(std::vector<MediaSourceInfo>& mediaSources) {
-  return AppendAll(MediaSourceList, mediaSources);
+  return Guarded(0, [&] { return AppendAll(MediaSourceList, mediaSources); });
 }

@@ -2,10 +2,9 @@
 // printer specific text, profiles, dithers and RIP resolutions.
 
 #include "qdf/control/ditherlist.h"
-#include "qdf/core/apmqdf.h"
+#include "qdf/core/guarded.h"
 #include "qdf/query/iccprofile.h"
 #include "qdf/query/treewalk.h"
-#include "qdf/support/nothrow.h"
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 
@@ -69,7 +68,7 @@ int APMQDF::FindColorModeNode(const int& ink, const int& media, const int& print
 
 int APMQDF::GetOEMInfo(const int& ink, const int& media, const int& printMode,
                        const int& resolution, const int& colorMode, AString& text) {
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     CQDFNode* node = nullptr;
     if (FindColorModeNode(ink, media, printMode, resolution, colorMode, node) == 0) return 0;
     if (IsIndexOf(node->Default, OEMInfoList.GetSize())) text = OEMInfoList[node->Default];
@@ -81,7 +80,7 @@ int APMQDF::GetProfileList(const int& ink, const int& media, const int& printMod
                            const int& resolution, const int& colorMode,
                            std::vector<AString>& profiles, AString& defaultProfile) {
   defaultProfile.Empty();
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     CQDFNode* node = nullptr;
     if (FindColorModeNode(ink, media, printMode, resolution, colorMode, node) == 0) return 0;
     const CQDFNode* leaf = FindLeaf(*node, kProfileLeaf);
@@ -101,7 +100,7 @@ int APMQDF::GetDitherList(const int& ink, const int& media, const int& printMode
                           const int& resolution, const int& colorMode,
                           std::vector<AString>& dithers, AString& defaultDither) {
   defaultDither.Empty();
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     CQDFNode* node = nullptr;
     if (FindColorModeNode(ink, media, printMode, resolution, colorMode, node) == 0) return 0;
     const CQDFNode* leaf = FindLeaf(*node, kDitherLeaf);

@@ -1,6 +1,6 @@
 // Media sources, their sizes and margins, and the numbers for the whole device.
 
-#include "qdf/core/apmqdf.h"
+#include "qdf/core/guarded.h"
 #include "qdf/query/recordlists.h"
 #include "qdf/query/treewalk.h"
 
@@ -12,9 +12,7 @@ int AppendChildren(const CQDFNode* node, const APtrArray& list, std::vector<Reco
                    int& defaultPosition) {
   defaultPosition = 0;
   if (node == nullptr) return 0;
-  return OrOnNoMemory(0, [&] {
-    return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
-  });
+  return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
 }
 
 int CopyNumbers(const double (&numbers)[4], double& first, double& second, double& third,
@@ -29,21 +27,25 @@ int CopyNumbers(const double (&numbers)[4], double& first, double& second, doubl
 }  // namespace
 
 int APMQDF::GetFullMarginInfoList(std::vector<MarginInfo>& margins) {
-  return AppendAll(MarginInfoList, margins);
+  return Guarded(0, [&] { return AppendAll(MarginInfoList, margins); });
 }
 
 int APMQDF::GetFullMediaSizeInfoList(std::vector<MediaSizeInfo>& mediaSizes) {
-  return AppendAll(MediaSizeList, mediaSizes);
+  return Guarded(0, [&] { return AppendAll(MediaSizeList, mediaSizes); });
 }
 
 int APMQDF::GetMediaSourceList(std::vector<MediaSourceInfo>& mediaSources, int& defaultPosition) {
-  return AppendChildren(&MediaSourceTreeRoot, MediaSourceList, mediaSources, defaultPosition);
+  return Guarded(0, [&] {
+    return AppendChildren(&MediaSourceTreeRoot, MediaSourceList, mediaSources, defaultPosition);
+  });
 }
 
 int APMQDF::GetMediaSizeList(const int& mediaSource, std::vector<MediaSizeInfo>& mediaSizes,
                              int& defaultPosition) {
-  return AppendChildren(FindChildWithID(MediaSourceTreeRoot, mediaSource), MediaSizeList,
-                        mediaSizes, defaultPosition);
+  return Guarded(0, [&] {
+    return AppendChildren(FindChildWithID(MediaSourceTreeRoot, mediaSource), MediaSizeList,
+                          mediaSizes, defaultPosition);
+  });
 }
 
 // No going back here: the first node for the source, and under it the first for the size, decide.
@@ -56,7 +58,7 @@ int APMQDF::GetMarginInfoList(const int& mediaSource, const int& mediaSize,
   if (size == nullptr || size->Children.GetSize() == 0) return 0;
   const CQDFNode* margin = ChildAt(*size, 0);
   if (margin == nullptr) return 0;
-  return OrOnNoMemory(0, [&] {
+  return Guarded(0, [&] {
     return AppendAllowed(MarginInfoList, margin->IDs, margin->Default, margins, defaultPosition);
   });
 }

@@ -5,25 +5,22 @@
 #include <vector>
 
 #include "qdf/support/aarrays.h"
-#include "qdf/support/nothrow.h"
 #include "qdf/support/uniqueids.h"
 
 // Appends a copy of each record for which `wanted` answers true, in list order, and answers 1 when
 // the vector then holds anything. `wanted` is asked just before the record goes in. When memory
-// runs out the vector is as it was, and the answer is 0.
+// runs out the vector is as it was, and bad_alloc goes on to the query.
 template <class Record, class Wanted>
 int AppendRecords(const APtrArray& list, std::vector<Record>& records, Wanted wanted) {
-  const std::size_t former = records.size();
-  const auto append = [&] {
+  const auto former = static_cast<std::ptrdiff_t>(records.size());
+  try {
     for (int i = 0; i < list.GetSize(); ++i) {
       const auto& record = *static_cast<const Record*>(list.GetAt(i));
       if (wanted(record)) records.push_back(record);
     }
-    return 1;
-  };
-  if (OrOnNoMemory(0, append) == 0) {
-    records.erase(records.begin() + static_cast<std::ptrdiff_t>(former), records.end());
-    return 0;
+  } catch (...) {
+    records.erase(records.begin() + former, records.end());
+    throw;
   }
   return records.empty() ? 0 : 1;
 }
@@ -34,16 +31,17 @@ int AppendAll(const APtrArray& list, std::vector<Record>& records) {
 }
 
 // Appends the records whose id is among the given ones. The default position, 0 on entry, becomes
-// that at which the record with the default id is appended.
+// that at which the record with the default id is appended, once all are.
 template <class Record>
 int AppendAllowed(const APtrArray& list, ADWordArray allowedIDs, int defaultID,
                   std::vector<Record>& records, int& defaultPosition) {
   const UniqueIDs allowed(allowedIDs);
+  int position = 0;
   const int result = AppendRecords(list, records, [&](const Record& record) {
     if (!allowed.Holds(static_cast<std::uint32_t>(record.ID))) return false;
-    if (record.ID == defaultID) defaultPosition = static_cast<int>(records.size());
+    if (record.ID == defaultID) position = static_cast<int>(records.size());
     return true;
   });
-  if (result == 0) defaultPosition = 0;
+  defaultPosition = position;
   return result;
 }

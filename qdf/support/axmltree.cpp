@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "qdf/support/descriptor.h"
 #include "qdf/support/filebytes.h"
 #include "qdf/support/nothrow.h"
 #include "qdf/support/savebytes.h"
@@ -41,9 +42,10 @@ AXMLFault FaultAt(std::string_view text, std::size_t offset, const char* reason)
   return fault;
 }
 
-AXMLFault FileFault(const char* reason) {
+AXMLFault FileFault(const char* reason, bool lackedMeans) {
   AXMLFault fault;
   fault.Reason = reason;
+  fault.LackedMeans = lackedMeans;
   return fault;
 }
 
@@ -100,7 +102,7 @@ AXMLTree::~AXMLTree() = default;
 
 AXMLFault AXMLTree::Document::Load(const char* path) {
   const char* unreadable = ReadFileBytes(path, bytes);
-  if (unreadable != nullptr) return FileFault(unreadable);
+  if (unreadable != nullptr) return FileFault(unreadable, LackedMeans());
   const XMLFindings findings = ExamineXML(bytes.Text());
   if (findings.fault != nullptr) return FaultAt(bytes.Text(), findings.offset, findings.fault);
   const pugi::xml_parse_result result = xml.load_buffer_inplace(
@@ -115,7 +117,7 @@ AXMLFault AXMLTree::Document::Load(const char* path) {
 
 int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
   removeAll(0);
-  document_->fault = FileFault("out of memory");  // short enough to take none itself
+  document_->fault = FileFault("out of memory", true);  // short enough to take none itself
   return OrOnNoMemory(0, [&] {
     document_->fault = document_->Load(path);
     return document_->fault.Reason.GetLength() == 0 ? 1 : 0;

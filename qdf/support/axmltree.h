@@ -37,6 +37,8 @@ struct AXMLFault {
   AString Reason;
   int Line = 0;
   int Column = 0;
+  // The process lacked memory or descriptors: that says nothing of the file.
+  bool LackedMeans = false;
 };
 
 class APMQDF_EXPORT AXMLTree {

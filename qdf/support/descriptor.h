@@ -32,11 +32,13 @@ class Descriptor {
   int number_ = -1;
 };
 
-// To be called when an operation on a file has failed, with errno as it left it. Throws bad_alloc
-// when the process lacked means, such as memory or descriptors, or its path was too long: that says
-// nothing of the file.
+// To be called when an operation on a file has failed, with errno as it left it. Whether the
+// process lacked means, such as memory or descriptors, or the path was too long: that says nothing
+// of the file.
+inline bool LackedMeans() {
+  return errno == ENOMEM || errno == EMFILE || errno == ENFILE || errno == ENAMETOOLONG;
+}
+
 inline void ThrowIfWithoutMeans() {
-  if (errno == ENOMEM || errno == EMFILE || errno == ENFILE || errno == ENAMETOOLONG) {
-    throw std::bad_alloc();
-  }
+  if (LackedMeans()) throw std::bad_alloc();
 }

@@ -30,6 +30,7 @@ const char* SystemReason() {
 }  // namespace
 
 const char* ReadFileBytes(const char* path, FileBytes& bytes) {
+  errno = 0;
   // Non-blocking, since opening a pipe would otherwise wait for a writer.
   const Descriptor file(open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};

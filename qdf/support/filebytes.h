@@ -14,6 +14,6 @@ struct FileBytes {
 };
 
 // Reads the regular file at the path, as it is at this moment. Answers null when it was read, and
-// otherwise why it wasn't, in a few words; pipes and devices are refused, since they may have no
-// end.
+// otherwise why it wasn't, in a few words, with errno as the system left it, 0 where it had no
+// objection; pipes and devices are refused, since they may have no end.
 const char* ReadFileBytes(const char* path, FileBytes& bytes);

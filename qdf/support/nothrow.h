@@ -3,21 +3,17 @@
 // Keeps a failed allocation inside the library: whatever runs out of memory gives the operation's
 // own failure result.
 
-#include <cerrno>
 #include <new>
 #include <stdexcept>
 
 // The answer of `work`, or `failure` when memory ran out or a text or list outgrew every container.
-// For callers to whom that failure is also a true answer, errno is then ENOMEM.
 template <class Result, class Work>
 Result OrOnNoMemory(Result failure, Work work) {
   try {
     return work();
   } catch (const std::bad_alloc&) {
-    errno = ENOMEM;
     return failure;
   } catch (const std::length_error&) {
-    errno = ENOMEM;
     return failure;
   }
 }

@@ -3,7 +3,6 @@
 #include "qdf/core/apmqdf.h"
 #include "qdf/support/axmltree.h"
 #include "qdf/support/nothrow.h"
-#include "qdf/writer/answers.h"
 #include "qdf/writer/element.h"
 
 namespace {
@@ -15,13 +14,14 @@ AString FourNumbers(double first, double second, double third, double fourth) {
 }  // namespace
 
 void APMQDF::PMWriteQDF(AFilePath& path) {
+  LackedMemory = false;
   OrOnNoMemory(0, [&] {
     AXMLTree tree("QDF_Info");
     Element definition{tree, {}};
     tree.addItem(definition.node, "Definition", "");
-    definition.AddText("ProductType", AnswerTo([&] { return GetProdcutType(); }));
-    definition.AddText("TranslationTable", AnswerTo([&] { return GetTranslationTable(); }));
-    definition.AddText("CustomMediaFile", AnswerTo([&] { return GetCustomMediaFile(); }));
+    definition.AddText("ProductType", GetProdcutType());
+    definition.AddText("TranslationTable", GetTranslationTable());
+    definition.AddText("CustomMediaFile", GetCustomMediaFile());
     const auto& limits = MediaSizeLimits;
     definition.AddText("MinAndMaxMediaSize",
                        FourNumbers(limits[0], limits[1], limits[2], limits[3]));
@@ -32,7 +32,8 @@ void APMQDF::PMWriteQDF(AFilePath& path) {
     PMWriteDefinitionPart(tree, definition.node);
     PMWriteControlPart(tree);
     PMWriteMediaSourceControlPart(tree);
-    return tree.saveToFile(path);
+    // An answer that fell short would make a document that lacks what it should hold.
+    return LackedMemory ? 0 : tree.saveToFile(path);
   });
 }
 

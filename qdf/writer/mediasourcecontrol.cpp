@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
-#include "qdf/writer/answers.h"
 #include "qdf/writer/element.h"
 
 void APMQDF::PMWriteMediaSourceControlPart(AXMLTree& tree) {
@@ -34,11 +33,9 @@ void APMQDF::WriteMediaSourceControlPart(AXMLTree& tree, AXMLTreeNode& element, 
     source.Add("MediaSize", [&](const Element& size) {
       size.Set("ID", MakeStringUponIDArray(sizeNode->IDs));
       margins.clear();
-      AnswerTo([&] {
-        int unused = 0;
-        const int mediaSize = static_cast<int>(sizeNode->IDs.GetAt(0));
-        return GetMarginInfoList(mediaSource, mediaSize, margins, unused);
-      });
+      int unused = 0;
+      const int mediaSize = static_cast<int>(sizeNode->IDs.GetAt(0));
+      GetMarginInfoList(mediaSource, mediaSize, margins, unused);
       ADWordArray ids;
       for (const MarginInfo& margin : margins) ids.Add(static_cast<std::uint32_t>(margin.ID));
       size.Set("MarginIDList", MakeStringUponIDArray(ids));

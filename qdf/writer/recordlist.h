@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
-#include "qdf/writer/answers.h"
 #include "qdf/writer/element.h"
 
 // Adds the list's element to Definition and, for each record that the query gives, an item of that
@@ -15,7 +14,7 @@ void WriteRecords(APMQDF& document, const Element& definition, const char* listN
                   const char* itemName, int (APMQDF::*query)(std::vector<Record>&), Fill fill) {
   definition.Add(listName, [&](const Element& list) {
     std::vector<Record> records;
-    AnswerTo([&] { return (document.*query)(records); });
+    (document.*query)(records);
     for (const Record& record : records) {
       list.Add(itemName, [&](const Element& item) { fill(item, record); });
     }
