@@ -30,7 +30,7 @@ Headers, and what CMake and pkg-config need, for programs that load QDF
 documents of printers and narrow print jobs with them.")
 if(TARGET qdf)
   debian_package(tool qdf utils ""
-"show, check and change QDF documents of printers
+"show, explain and change QDF documents of printers
 A command-line tool for the engineers who write the documents that say what a
 printer can do. It tells what is wrong in a document, where and why.")
 endif()
