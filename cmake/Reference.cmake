@@ -1,5 +1,5 @@
-# The target apmqdf-reference: the public headers as pages to read, in reference/html of the build
-# folder. A comment that Doxygen can't make sense of ends the build.
+# The target apmqdf-reference: the pages for hosts and the public headers, in reference/html of the
+# build folder. A comment or link that Doxygen can't make sense of ends the build.
 
 find_program(DOXYGEN doxygen)
 mark_as_advanced(DOXYGEN)
