@@ -2,6 +2,7 @@
 
 #include "qdf/definition/readers.h"
 #include "qdf/support/axmltree.h"
+#include "qdf/support/outputdrivers.h"
 #include "qdf/support/ownership.h"
 #include "tool/failure.h"
 
@@ -59,9 +60,7 @@ std::string WhyNot(AFilePath& path) {
 
 std::string DocumentPath(const std::string& name) {
   if (name.find('/') != std::string::npos) return name;
-  AFilePath path;
-  path += "OutputDrivers";
-  path += name.c_str();
+  const AFilePath path = InOutputDrivers(name.c_str());
   const bool isHere = path.exists() == 0 && AFilePath(name.c_str()).exists() != 0;
   return isHere ? name : static_cast<const char*>(path);
 }

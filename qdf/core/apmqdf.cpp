@@ -10,6 +10,7 @@
 #include "qdf/support/axmltree.h"
 #include "qdf/support/nothrow.h"
 #include "qdf/support/numbers.h"
+#include "qdf/support/outputdrivers.h"
 #include "qdf/support/ownership.h"
 
 namespace {
@@ -127,9 +128,7 @@ void PMGetQDFInterfaceFromName(const char* name, APMQDF** document) {
   *document = nullptr;
   if (name == nullptr || *name == '\0') return;
   OrOnNoMemory(0, [&] {
-    AFilePath path;
-    path += "OutputDrivers";
-    path += name;
+    AFilePath path = InOutputDrivers(name);
     PMGetQDFInterface(path, document);
     return 1;
   });

@@ -6,6 +6,7 @@
 
 #include "qdf/localise/textlines.h"
 #include "qdf/support/nothrow.h"
+#include "qdf/support/outputdrivers.h"
 #include "qdf/support/savebytes.h"
 
 namespace {

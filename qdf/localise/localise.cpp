@@ -7,6 +7,7 @@
 #include "qdf/localise/translationtable.h"
 #include "qdf/support/amapstringtoptr.h"
 #include "qdf/support/nothrow.h"
+#include "qdf/support/outputdrivers.h"
 #include "qdf/support/text.h"
 
 namespace {

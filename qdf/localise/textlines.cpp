@@ -5,13 +5,6 @@
 #include "qdf/support/afile.h"
 #include "qdf/support/text.h"
 
-AFilePath InOutputDrivers(const char* name) {
-  AFilePath path;
-  path += "OutputDrivers";
-  path += name;
-  return path;
-}
-
 int ForEachLine(AFilePath& path,
                 const std::function<void(std::size_t number, const char* text)>& take) {
   constexpr unsigned int kCapacity = 1024;

@@ -9,9 +9,6 @@
 
 #include "qdf/support/afilepath.h"
 
-// The path of what bears that name in OutputDrivers, under the working folder.
-AFilePath InOutputDrivers(const char* name);
-
 // Hands out each line with its number, from 1. Of a line of more than 1,023 characters each piece
 // of 1,023 counts as a line, under one number. 0 when the file can't be opened.
 int ForEachLine(AFilePath& path,
