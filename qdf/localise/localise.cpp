@@ -39,6 +39,15 @@ class Translations {
   AMapStringToPtr byKey_{10};
 };
 
+// A line for which there is no memory is left out, and the others count.
+void AddLine(const char* line, Translations& translations) {
+  OrOnNoMemory(0, [&] {
+    TranslationPair pair;
+    if (ReadTableLine(line, pair) == nullptr) translations.Add(pair);
+    return 1;
+  });
+}
+
 template <std::size_t N>
 void TranslateField(char (&field)[N], const Translations& translations) {
   char name[N + 1] = {};
@@ -85,9 +94,7 @@ void PMLocalizeQDFByTranslationTable(APMQDF* document) {
     if (table.GetLength() == 0) return 0;
     AFilePath path = InOutputDrivers(table);
     Translations translations;
-    ReadTranslationTable(path, [&](const TableLine& line) {
-      if (line.Fault == nullptr) translations.Add(line.Pair);
-    });
+    ForEachLine(path, [&](std::size_t, const char* line) { AddLine(line, translations); });
     if (!translations.IsEmpty()) TranslateDocument(*document, translations);
     return 1;
   });

@@ -15,7 +15,8 @@ extern "C" {
 // The change is in memory only. A second call looks up the translated names, and only loading the
 // document again brings the former ones back. Nothing is changed and nothing reported for a null
 // document, a document without a table, and a table that is missing, can't be read or has no line
-// that counts; translationtable.h tells which lines do. The table's name is joined to the folder as
+// that counts; translationtable.h tells which lines do. A line for which there is no memory doesn't
+// count. The table's name is joined to the folder as
 // it stands: a host that doesn't trust its documents tests for a bare file name.
 APMQDF_EXPORT void PMLocalizeQDFByTranslationTable(APMQDF* document);
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // The translation table: a text file of lines "key=value", where the key is a display name of a
-// document and the value what replaces it. The localiser and whoever explains a table read it
-// through the same operation.
+// document and the value what replaces it. The localiser and whoever explains a table read its
+// lines through the same operation.
 //
 // Keys and values count without the white space around them. A key may be written with an asterisk
 // before it, a value with a slash before and a colon behind it; none of these belongs to the text.
