@@ -72,14 +72,25 @@ bool SetSize(int file, std::size_t size) {
   return result == 0;
 }
 
-// What reaches beyond the former end goes first: that is all that needs new room, and when there is
-// none the former content is still untouched.
+// Takes the room for the whole file, whose former content may have holes. False when there is none;
+// a file system that can't tell shows it while the file is written.
+bool ReserveRoom(int file, std::size_t size) {
+  if (size == 0) return true;
+  int result = 0;
+  do {
+    result = fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size));
+  } while (result != 0 && errno == EINTR);
+  return result == 0 || (errno != ENOSPC && errno != EDQUOT);
+}
+
+// What reaches beyond the former end goes first: where no room could be reserved, it is the part
+// that needs some, and when there is none the former content is still untouched.
 bool ReplaceContent(int file, std::string_view bytes) {
   struct stat status {};
   if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) return false;
   const auto formerSize = static_cast<std::size_t>(status.st_size);
   const std::size_t shared = std::min(formerSize, bytes.size());
-  if (!WriteAt(file, shared, bytes.substr(shared))) {
+  if (!ReserveRoom(file, bytes.size()) || !WriteAt(file, shared, bytes.substr(shared))) {
     SetSize(file, formerSize);
     return false;
   }

@@ -89,6 +89,26 @@ TEST(SaveFileBytes, KeepsTheFormerFileBeyondTheSizeLimit) {
   EXPECT_EQ(fs::status(folder.Path("fits")).permissions(), fs::perms(0640));
 }
 
+// What is overwritten may need room as well: a hole in a file takes none.
+TEST(SaveFileBytes, KeepsAFormerFileWithHolesOnAFullDisk) {
+  const TempFolder folder;
+  const int result = InChild([&] {
+    if (!MountSmallDisk(folder.Path().c_str())) return 77;
+    const std::string path = folder.Write("file", "former");
+    fs::resize_file(path, kSmallDisk - 4096);
+    const std::string former = ReadFile(path);
+    folder.Write("other", Bytes(kSmallDisk / 2, 'o'));
+    for (const std::size_t size : {former.size() - 1, former.size(), former.size() + 1}) {
+      if (SaveFileBytes(path.c_str(), Bytes(size, 'n')) != 0) return 1;
+      if (ReadFile(path) != former) return 2;
+    }
+    fs::remove(folder.Path("other"));
+    return SaveFileBytes(path.c_str(), Bytes(former.size(), 'n')) != 0 ? 0 : 3;
+  });
+  if (result == 77) GTEST_SKIP() << "this machine lets no test mount a small disk";
+  EXPECT_EQ(result, 0);
+}
+
 TEST(SaveFileBytes, KeepsTheFormerFileOnAFullDisk) {
   const TempFolder folder;
   const int result = InChild([&] {
