@@ -76,10 +76,12 @@ int CCustomMediaInfoInter::GetIccprofileForMedia(const AString& media, AString& 
 
 int CCustomMediaInfoInter::GetIccprofileList(AStringArray& profiles) {
   profiles.RemoveAll();
-  return OrOnNoMemory(0, [&] {
+  const bool whole = OrOnNoMemory(false, [&] {
     profiles.Append(IccprofileList);
-    return profiles.GetSize() > 0 ? 1 : 0;
+    return true;
   });
+  if (!whole) profiles.RemoveAll();
+  return profiles.GetSize() > 0 ? 1 : 0;
 }
 
 int CCustomMediaInfoInter::SetDisplayNameForMedia(const AString& media, const AString& name) {

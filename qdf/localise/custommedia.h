@@ -38,7 +38,8 @@ class CCustomMediaInfoInter {
   virtual int GetDisplayNameForMedia(const AString& media, AString& name);
   virtual int GetIccprofileForMedia(const AString& media, AString& profile);
 
-  // Replaces what the array held with the list of profiles; 1 when that isn't empty, else 0.
+  // Replaces what the array held with the list of profiles; 1 when that isn't empty, else 0. The
+  // array is empty when memory runs out.
   virtual int GetIccprofileList(AStringArray& profiles);
 
   // Replaces what is set for the medium; an empty text removes it. Answers 1. Without memory 0, and

@@ -4,14 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <memory>
 #include <new>
 #include <pugixml.hpp>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "qdf/hpimport/sweep.h"
 #include "qdf/hpimport/sweepsteps.h"
 #include "qdf/hpimport/update.h"
+#include "qdf/localise/custommedia.h"
+#include "qdf/localise/localise.h"
 #include "tests/documents.h"
 #include "tests/files.h"
 #include "tests/hpimport/resources.h"
@@ -141,6 +146,50 @@ TEST(NoMemory, QuestionsGiveNothing) {
                                                                                               : 0;
       },
       [](int copied) { EXPECT_EQ(copied, 0); });
+}
+
+// A table loses no more than the line for which there is no memory.
+TEST(NoMemory, TablesAndListsOfProfilesAreReadAsFarAsTheyShould) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  const std::string translation(100, 't');
+  folder.Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
+  const DocumentText text{.InkList = Entries("1=One;2=Two"),
+                          .Definition = "<TranslationTable>t</TranslationTable>"};
+  std::unique_ptr<APMQDF> document;
+  std::set<std::string> met;
+  Exhaust(
+      "translation",
+      [&] {
+        const long count = std::exchange(allowed, kUnlimited);
+        document = Load(text);
+        allowed = count;
+        PMLocalizeQDFByTranslationTable(document.get());
+        return 0;
+      },
+      [&](int) {
+        std::vector<InkTypeInfo> inks;
+        document->GetFullInkTypeList(inks);
+        met.insert(Join({Str(inks.at(0).DisplayName), Str(inks.at(1).DisplayName)}, " "));
+      });
+  EXPECT_EQ(met, (std::set<std::string>{"One Two", translation + " Two"}));
+
+  folder.Write("OutputDrivers/m", "key_Iccprofile=short\nkey_Iccprofile=" + translation);
+  CCustomMediaInfoInter* made = nullptr;
+  PMGetCCustomMediaInfoInterFromName("m", &made);
+  const std::unique_ptr<CCustomMediaInfoInter> media(made);
+  AStringArray profiles;
+  Exhaust(
+      "profiles",
+      [&] {
+        profiles = {};
+        return media->GetIccprofileList(profiles);
+      },
+      [&](int result) {
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(profiles.GetSize(), 0);
+      });
+  EXPECT_EQ(profiles.GetSize(), 2);
 }
 
 TEST(NoMemory, UpdatesWriteAllOrNothingAndSweepsDeleteNothingSound) {
