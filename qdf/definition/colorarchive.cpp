@@ -91,6 +91,11 @@ AArchive& operator<<(AArchive& archive, const ANewColorOpt& option) {
 }
 
 AArchive& operator>>(AArchive& archive, ANewColorOpt& option) {
+  if (archive.IsWriting() != 0) {
+    AArchive nothing(AFilePath(), AArchive::Direction::Reading);
+    nothing >> option;
+    return archive;
+  }
   archive.TagStart();
   archive.Tag(kSetting0) >> option.Setting0;
   ReadField(archive.Tag(kShape), option.Shape);

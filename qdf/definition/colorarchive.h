@@ -13,5 +13,6 @@ APMQDF_EXPORT AArchive& operator<<(AArchive& archive, const ANewColorOpt& option
 
 // Reads one group into the record. Whatever it holds goes into the fields, and what it lacks makes
 // them 0 or empty, but for the curve: without one in the archive the record keeps its own. Texts
-// are cut at the size of their field.
+// are cut at the size of their field. An archive that is open for writing stays as it is, and holds
+// nothing to read.
 APMQDF_EXPORT AArchive& operator>>(AArchive& archive, ANewColorOpt& option);

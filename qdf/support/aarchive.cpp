@@ -252,7 +252,7 @@ int AArchive::AtEnd() const { return reader_ == nullptr || reader_->AtEnd() ? 1 
 int AArchive::IsDamaged() const { return reader_ != nullptr && reader_->IsDamaged() ? 1 : 0; }
 
 void AArchive::RequireWriting() const {
-  if (direction_ == Direction::Writing) return;
+  if (IsWriting() != 0) return;
   throw AArchiveException(AArchiveException::kReadOnly,
                           OrOnNoMemory(AString(), [&] { return path_.GetFullPath(); }));
 }

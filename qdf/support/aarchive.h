@@ -60,7 +60,9 @@ class APMQDF_EXPORT AArchive {
   // Reading: non-zero when the file can't be what an archive wrote, as far as it was read: a length
   // leads beyond the end, or a value is longer than its place. A tag that isn't there is no damage.
   int IsDamaged() const;
-  // Throws AArchiveException when the archive is open for reading.
+  // Non-zero when the archive was opened for writing.
+  int IsWriting() const { return direction_ == Direction::Writing ? 1 : 0; }
+  // Throws AArchiveException when the archive was opened for reading.
   void RequireWriting() const;
 
   // Opens and closes a group, which may stand wherever a value may. A TagEnd without a TagStart

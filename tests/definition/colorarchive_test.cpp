@@ -204,4 +204,16 @@ TEST_F(ColorArchive, LeavesAnArchiveThatIsOpenForReadingAsItWas) {
   EXPECT_EQ(Str(read.Colorant.InternalName), "Cyan");
 }
 
+TEST_F(ColorArchive, ReadsNothingOutOfOneThatIsOpenForWriting) {
+  AArchive archive = Open(Direction::Writing);
+  ANewColorOpt read;
+  archive << 7 >> read << 8;
+  ASSERT_EQ(archive.Close(), 1);
+  EXPECT_EQ(ReadFile(Path()), std::string("\7\0\0\0\10\0\0\0", 8));
+  ANewColorOpt absent;
+  AArchive empty = Reading("");
+  empty >> absent;
+  EXPECT_EQ(Fields(read), Fields(absent));
+}
+
 }  // namespace
