@@ -14,7 +14,7 @@ AStdioFile::~AStdioFile() { AStdioFile::Close(); }
 int AStdioFile::Open(AFilePath& path, unsigned int mode, AFileException* exception,
                      EFileKind /*kind*/) {
   Close();
-  const char* reason = OrOnNoMemory("it is too large", [&] {
+  const char* reason = OrOnNoMemory("out of memory", [&] {
     if (mode == kRead) return ReadFileBytes(path, content_);
     if (mode != kCreate) return "there is no such way to open it";
     path_ = path;
