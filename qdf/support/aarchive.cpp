@@ -236,7 +236,7 @@ AArchive::AArchive(const AFilePath& path, Direction direction) : direction_(dire
   });
 }
 
-AArchive::~AArchive() { Close(); }
+AArchive::~AArchive() = default;
 
 int AArchive::IsOpen() const { return reader_ != nullptr || writer_ != nullptr ? 1 : 0; }
 

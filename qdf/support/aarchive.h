@@ -7,13 +7,13 @@
 //
 //   AArchive file(path, AArchive::Direction::Writing);
 //   file << record << another;
-//   if (file.Close() == 0) ...  // nothing was stored
+//   if (file.Close() == 0) ...  // nothing was stored, as without Close
 //
 //   AArchive file(path, AArchive::Direction::Reading);
 //   while (!file.AtEnd()) file >> record;
 //
-// Whatever a file holds, reading never goes beyond its end or that of a group, and never takes more
-// memory than the file's size. An archive is used from one thread at a time.
+// Whatever a file holds, reading never goes beyond its end or that of a group, and takes memory in
+// proportion to the file's size. An archive is used from one thread at a time.
 
 #include <cstddef>
 #include <exception>
@@ -40,9 +40,12 @@ class APMQDF_EXPORT AArchive {
  public:
   enum class Direction { Reading, Writing };
 
-  // For reading the whole file is read at once. For writing nothing happens on the disk yet.
+  // For reading the whole file is read at once. For writing nothing happens on the disk before
+  // Close, and a relative path is taken then.
   AArchive(const AFilePath& path, Direction direction);
-  ~AArchive();  // closes the archive
+  // An archive that wasn't closed stores nothing: a host that fails between two records keeps its
+  // former file.
+  ~AArchive();
   AArchive(const AArchive&) = delete;
   AArchive& operator=(const AArchive&) = delete;
 

@@ -50,7 +50,8 @@ class AStdioFile : public AFile {
   std::size_t GetLineNumber() const { return lineNumber_; }
 
   // Adds exactly these bytes to a file that is open for writing. They are kept until Close, which
-  // stores all of them or, when there is no room, none; neither has a result.
+  // stores all of them or, when there is no room, none; neither has a result. A relative path is
+  // taken anew when the file is saved.
   void Write(const void* bytes, unsigned int count);
 
   void Close();

@@ -169,4 +169,10 @@ TEST_F(Archive, TellsWhenNothingCouldBeReadOrSaved) {
   EXPECT_EQ(ReadFile(path_), "former");
 }
 
+TEST_F(Archive, StoresNothingUnlessItIsClosed) {
+  WriteFile(path_, "former");
+  Open(Direction::Writing) << 1;
+  EXPECT_EQ(ReadFile(path_), "former");
+}
+
 }  // namespace
