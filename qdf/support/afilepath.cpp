@@ -17,7 +17,7 @@ std::string_view WithoutTrailingSlashes(std::string_view path) {
 }  // namespace
 
 AFilePath& AFilePath::operator+=(const char* component) {
-  std::string_view added(component != nullptr ? component : "");
+  std::string_view added(OrEmpty(component));
   if (added.empty()) return *this;
   while (!added.empty() && added.front() == '/') added.remove_prefix(1);
   std::string joined(WithoutTrailingSlashes(View(path_)));

@@ -2,25 +2,21 @@
 
 #include <string_view>
 
-namespace {
-
-std::string_view TextOf(const char* key) { return key != nullptr ? key : ""; }
-
-}  // namespace
+#include "qdf/support/text.h"
 
 AMapStringToPtr::AMapStringToPtr(int /*blockSize*/) {}
 
 AMapStringToPtr::~AMapStringToPtr() = default;
 
 int AMapStringToPtr::Lookup(const char* key, void*& value) const {
-  const auto found = nodes_.find(TextOf(key));
+  const auto found = nodes_.find(std::string_view(OrEmpty(key)));
   if (found == nodes_.end()) return 0;
   value = found->second.value;
   return 1;
 }
 
 void AMapStringToPtr::SetAt(const char* key, void* value) {
-  const auto [place, added] = nodes_.try_emplace(std::string(TextOf(key)));
+  const auto [place, added] = nodes_.try_emplace(OrEmpty(key));
   Node& node = *place;
   node.second.value = value;
   if (!added) return;
@@ -30,7 +26,7 @@ void AMapStringToPtr::SetAt(const char* key, void* value) {
 }
 
 int AMapStringToPtr::RemoveKey(const char* key) {
-  const auto found = nodes_.find(TextOf(key));
+  const auto found = nodes_.find(std::string_view(OrEmpty(key)));
   if (found == nodes_.end()) return 0;
   const Links& links = found->second;
   (links.previous != nullptr ? links.previous->second.next : first_) = links.next;

@@ -9,12 +9,6 @@
 #include "qdf/support/clocale.h"
 #include "qdf/support/text.h"
 
-namespace {
-
-const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
-
-}  // namespace
-
 AString::AString(const char* text) : text_(OrEmpty(text)) {}
 
 AString& AString::operator=(const char* text) {

@@ -64,9 +64,6 @@ pugi::xml_node ElementFrom(pugi::xml_node node) {
   return node;
 }
 
-// A null name is an empty one: the parser's own search compares without looking for null.
-const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
-
 // Takes what the printer emits. In a text that leaves a carriage return as it is, which a parser
 // would take for a line end; nowhere else does one come through.
 class SavedText : public pugi::xml_writer {

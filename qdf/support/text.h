@@ -17,6 +17,9 @@ constexpr char UpperChar(char c) {
 
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
+// A null pointer counts as an empty text.
+constexpr const char* OrEmpty(const char* text) { return text != nullptr ? text : ""; }
+
 inline std::string_view View(const AString& text) {
   return {static_cast<const char*>(text), static_cast<std::size_t>(text.GetLength())};
 }
