@@ -1,8 +1,7 @@
 // The lists of plain records: one procedure, and for each list the names of its elements and how
-// the text of a field is made.
+// each is added.
 
 #include <initializer_list>
-#include <string>
 
 #include "qdf/support/numbers.h"
 #include "qdf/writer/recordlist.h"
@@ -12,34 +11,34 @@ namespace {
 template <class Record>
 struct Field {
   const char* element;
-  AString (*text)(const Record&);
+  void (*add)(const Element& item, const char* element, const Record& record);
 };
 
 template <auto Member, class Record>
-AString Int(const Record& record) {
-  return std::to_string(record.*Member).c_str();
+void Int(const Element& item, const char* element, const Record& record) {
+  item.AddInt(element, record.*Member);
 }
 
 template <auto Member, class Record>
-AString Name(const Record& record) {
-  return std::string(FieldText(record.*Member)).c_str();
+void Name(const Element& item, const char* element, const Record& record) {
+  item.AddName(element, record.*Member);
 }
 
-AString MarginNumbers(const MarginInfo& margin) {
-  return AString().Format("%lf %lf %lf %lf", margin.FirstMargin, margin.SecondMargin,
-                          margin.ThirdMargin, margin.FourthMargin);
+void MarginNumbers(const Element& item, const char* element, const MarginInfo& margin) {
+  item.AddText(element, AString().Format("%lf %lf %lf %lf", margin.FirstMargin, margin.SecondMargin,
+                                         margin.ThirdMargin, margin.FourthMargin));
 }
 
-AString SizeNumbers(const MediaSizeInfo& size) {
-  return AString().Format("%lf,%lf", size.FirstDimension, size.SecondDimension);
+void SizeNumbers(const Element& item, const char* element, const MediaSizeInfo& size) {
+  item.AddText(element, AString().Format("%lf,%lf", size.FirstDimension, size.SecondDimension));
 }
 
 // The numbers are compared before they lose their fractions, so there may be two equal ones.
-AString ResolutionNumbers(const ResolutionInfo& resolution) {
+void ResolutionNumbers(const Element& item, const char* element, const ResolutionInfo& resolution) {
   const int x = TruncateToInt(resolution.XResolution);
   const int y = TruncateToInt(resolution.YResolution);
   const bool one = resolution.XResolution == resolution.YResolution;
-  return one ? AString().Format("%d", x) : AString().Format("%dx%d", x, y);
+  item.AddText(element, one ? AString().Format("%d", x) : AString().Format("%dx%d", x, y));
 }
 
 template <class Record>
@@ -49,7 +48,7 @@ void WriteList(APMQDF& document, const Element& definition, const char* listName
   WriteRecords(document, definition, listName, itemName, query,
                [&](const Element& item, const Record& record) {
                  for (const Field<Record>& field : fields) {
-                   item.AddText(field.element, field.text(record));
+                   field.add(item, field.element, record);
                  }
                });
 }
