@@ -226,15 +226,10 @@ int AXMLTree::addItem(AXMLTreeNode& item, const char* name, const char* value) {
 }
 
 int AXMLTree::addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name,
-                       const char* value, int position) {
+                       const char* value, int /*position*/) {
   pugi::xml_node element(parent.element_);
   if (!element) return 0;
-  AXMLTreeNode follower;
-  const bool inserted = position >= 0 && getChild(position, parent, follower) != 0;
-  cursors_.clear();
-  pugi::xml_node added =
-      inserted ? element.insert_child_before(pugi::node_element, pugi::xml_node(follower.element_))
-               : element.append_child(pugi::node_element);
+  pugi::xml_node added = element.append_child(pugi::node_element);
   const bool hasText = *OrEmpty(value) != '\0';
   if (!stored(added.set_name(OrEmpty(name)) &&
               (!hasText || added.append_child(pugi::node_pcdata).set_value(value)))) {

@@ -98,10 +98,10 @@ class APMQDF_EXPORT AXMLTree {
   const char* attributeText(const AXMLTreeNode& node, const char* name) const;
   const char* valueText(const AXMLTreeNode& node, AString& joined) const;
 
-  // Each of these adds an element with that name and, when it isn't empty, that text, and gives
-  // non-zero and its handle: behind the root's children, or among the parent's children at that
-  // position, where -1 means behind all. 0, and nothing added, when the parent's handle refers to
-  // nothing or memory runs out.
+  // Each of these adds an element with that name and, when it isn't empty, that text, behind the
+  // children of the root or of the parent, and gives non-zero and its handle. 0, and nothing added,
+  // when the parent's handle refers to nothing or memory runs out. The position has no meaning;
+  // callers give -1.
   int addItem(AXMLTreeNode& item, const char* name, const char* value);
   int addChild(AXMLTreeNode& child, AXMLTreeNode parent, const char* name, const char* value,
                int position);

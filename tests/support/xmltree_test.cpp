@@ -104,7 +104,7 @@ TEST(XMLTree, IsBuiltInTheOrderOfTheCalls) {
   ASSERT_NE(tree.addItem(item, "item", ""), 0);
   for (const char* name : {"a", "b", "c"}) ASSERT_NE(tree.addChild(child, item, name, name, -1), 0);
   ASSERT_NE(tree.getChild(1, item, child), 0);
-  ASSERT_NE(tree.addChild(child, item, "front", "", 0), 0);
+  ASSERT_NE(tree.addChild(child, item, "last", "", 0), 0);
   ASSERT_NE(tree.addChild(child, child, "below", "x", 7), 0);
   tree.setAttribute(item, "x", "1");
   tree.setAttribute(item, "x", "2");
@@ -112,7 +112,7 @@ TEST(XMLTree, IsBuiltInTheOrderOfTheCalls) {
   for (int i = 0; tree.getChild(i, item, child) != 0; ++i) {
     found.append(" ").append(tree.getName(child)).append("=").append(tree.getValue(child));
   }
-  EXPECT_EQ(found, "2 front= a=a b=b c=c");
+  EXPECT_EQ(found, "2 a=a b=b c=c last=");
   EXPECT_EQ(tree.addChild(child, AXMLTreeNode(), "a", "", -1), 0);
 }
 
