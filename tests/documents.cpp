@@ -158,14 +158,6 @@ std::unique_ptr<APMQDF> LoadText(std::string_view text) {
 
 std::unique_ptr<APMQDF> Load(const DocumentText& document) { return LoadText(document.Text()); }
 
-std::unique_ptr<AXMLTree> TreeOf(std::string_view text) {
-  const TempFolder folder;
-  AFilePath path(folder.Write("tree.xml", text).c_str());
-  auto tree = std::make_unique<AXMLTree>("RootElement");
-  if (tree->loadFromFile(path, 1) == 0) ADD_FAILURE() << tree->loadFault().Reason << ": " << text;
-  return tree;
-}
-
 std::string Join(const std::vector<std::string>& texts, std::string_view between) {
   std::string joined;
   bool first = true;

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
-#include "qdf/support/axmltree.h"
 #include "qdf/support/text.h"
 
 // The entries of a list: "1;2=Plain Paper;3=Bond/bond" gives three, each with its ID and, behind
@@ -48,9 +47,6 @@ struct DocumentText {
 std::unique_ptr<APMQDF> LoadFile(const std::string& path);
 std::unique_ptr<APMQDF> LoadText(std::string_view text);
 std::unique_ptr<APMQDF> Load(const DocumentText& document);
-
-// The tree of a text, a test failure with the reason when it isn't well formed.
-std::unique_ptr<AXMLTree> TreeOf(std::string_view text);
 
 std::string Join(const std::vector<std::string>& texts, std::string_view between);
 // The pieces between "|"; one piece, an empty one, of an empty text.

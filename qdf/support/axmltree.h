@@ -8,7 +8,6 @@
 
 #include "qdf/support/afilepath.h"
 #include "qdf/support/astring.h"
-#include "qdf/support/export.h"
 
 namespace pugi {
 struct xml_node_struct;
@@ -16,7 +15,7 @@ struct xml_node_struct;
 
 // A default-made handle refers to nothing. Copies refer to the same element. A handle is valid
 // until the tree is emptied or destroyed.
-class APMQDF_EXPORT AXMLTreeNode {
+class AXMLTreeNode {
  public:
   AXMLTreeNode() = default;
   AXMLTreeNode(const AXMLTreeNode&) = default;
@@ -41,7 +40,7 @@ struct AXMLFault {
   bool LackedMeans = false;
 };
 
-class APMQDF_EXPORT AXMLTree {
+class AXMLTree {
  public:
   // A tree that holds the root element only.
   explicit AXMLTree(const AString& rootName);

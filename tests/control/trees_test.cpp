@@ -1,5 +1,7 @@
 // Both control sections, read into trees.
 
+#include "tests/trees.h"
+
 #include <gtest/gtest.h>
 
 #include <string>

@@ -13,6 +13,7 @@
 #include "qdf/support/ownership.h"
 #include "qdf/support/text.h"
 #include "tests/documents.h"
+#include "tests/trees.h"
 
 namespace {
 

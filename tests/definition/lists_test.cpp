@@ -10,6 +10,7 @@
 #include "qdf/definition/readers.h"
 #include "qdf/support/ownership.h"
 #include "tests/documents.h"
+#include "tests/trees.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "qdf/support/axmltree.h"
 #include "tests/documents.h"
 #include "tests/files.h"
+#include "tests/trees.h"
 
 namespace {
 
