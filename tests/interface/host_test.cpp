@@ -7,15 +7,25 @@
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
+#include "qdf/definition/colorarchive.h"
+#include "qdf/hpimport/sweep.h"
+#include "qdf/hpimport/update.h"
+#include "qdf/localise/custommedia.h"
+#include "qdf/localise/localise.h"
 #include "qdf/query/iccprofile.h"
 #include "tests/documents.h"
 #include "tests/files.h"
+#include "tests/hpimport/resources.h"
 
 // The undecorated names of the exported functions.
 extern "C" {
 void NamedGetInterface() __asm__("PMGetQDFInterface");
 void NamedGetInterfaceFromName() __asm__("PMGetQDFInterfaceFromName");
 void NamedIccProfileIsInList() __asm__("PMIccProfileIsInList");
+void NamedLocalize() __asm__("PMLocalizeQDFByTranslationTable");
+void NamedGetCustomMedia() __asm__("PMGetCCustomMediaInfoInterFromName");
+void NamedUpdate() __asm__("PMUpdateQDF");
+void NamedCheckVersion() __asm__("PMCheckHPXMLVersion");
 }
 
 namespace {
@@ -31,6 +41,10 @@ TEST(Host, FindsTheFunctionsByTheirPlainNames) {
   EXPECT_EQ(Address(&NamedGetInterface), Address(&PMGetQDFInterface));
   EXPECT_EQ(Address(&NamedGetInterfaceFromName), Address(&PMGetQDFInterfaceFromName));
   EXPECT_EQ(Address(&NamedIccProfileIsInList), Address(&PMIccProfileIsInList));
+  EXPECT_EQ(Address(&NamedLocalize), Address(&PMLocalizeQDFByTranslationTable));
+  EXPECT_EQ(Address(&NamedGetCustomMedia), Address(&PMGetCCustomMediaInfoInterFromName));
+  EXPECT_EQ(Address(&NamedUpdate), Address(&PMUpdateQDF));
+  EXPECT_EQ(Address(&NamedCheckVersion), Address(&PMCheckHPXMLVersion));
 }
 
 // The size of a record and the places of these fields in it.
@@ -171,6 +185,56 @@ TEST(Host, AsksForMediaSourcesSizesAndMargins) {
             (std::vector<double>{261.12, 460.8, 460.8, 599.52}));
   EXPECT_EQ(document->GetTranslationTable(), "dyesub6.txt");
   EXPECT_EQ(document->GetCustomMediaFile(), "dyesub6_custom.txt");
+}
+
+TEST(Host, SweepsUpdatesTranslatesAndWrites) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  WriteResource(folder, "tree", {});
+  folder.Write("tree/Unsound/file", "");
+  folder.Write("OutputDrivers/d.qdf",
+               ReadFile(std::string(kExamples) + "/OutputDrivers/dyesub6.qdf"));
+  folder.Write("OutputDrivers/dyesub6.txt", "Gloss=Glanz");
+  AFilePath tree("tree");
+  AFilePath path("OutputDrivers/d.qdf");
+  PMCheckHPXMLVersion(tree);
+  EXPECT_EQ(AFilePath("tree/Unsound").exists(), 0);
+  PMUpdateQDF(path, tree);
+  const auto document = LoadFile("OutputDrivers/d.qdf");
+  ASSERT_NE(document, nullptr);
+  PMLocalizeQDFByTranslationTable(document.get());
+  std::vector<MediaTypeInfo> media;
+  document->GetFullMediaTypeList(media);
+  EXPECT_EQ(Str(media.at(0).DisplayName), "Glanz");
+  AFilePath copy("copy.qdf");
+  document->PMWriteQDF(copy);
+  EXPECT_EQ(ReadFile("copy.qdf"), ReadFile("OutputDrivers/d.qdf"));
+}
+
+TEST(Host, KeepsCustomMediaAndColorOptions) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  folder.Write("OutputDrivers/custom.txt", "key_Iccprofile=p");
+  CCustomMediaInfoInter* made = nullptr;
+  PMGetCCustomMediaInfoInterFromName("custom.txt", &made);
+  std::unique_ptr<CCustomMediaInfoInter> media(made);
+  ASSERT_NE(media, nullptr);
+  EXPECT_EQ(media->SetDisplayNameForMedia("Gloss", "Mine"), 1);
+  media.reset();
+  EXPECT_EQ(ReadFile("OutputDrivers/custom.txt"),
+            "key_Iccprofile=p\nkey_DisplayName_ForMedia=Gloss/Mine\n");
+
+  const AFilePath path("options");
+  ANewColorOpt option;
+  option.Setting4 = 44;
+  AArchive writing(path, AArchive::Direction::Writing);
+  writing << option;
+  EXPECT_EQ(writing.Close(), 1);
+  AArchive reading(path, AArchive::Direction::Reading);
+  ANewColorOpt read;
+  reading >> read;
+  EXPECT_NE(read == option, 0);
+  EXPECT_THROW(reading << option, AArchiveException);
 }
 
 }  // namespace

@@ -60,9 +60,12 @@ class Localise : public testing::Test {
                                     const DocumentText& text = TestDocument("table.txt")) {
     folder_.Write("OutputDrivers/table.txt", table);
     std::unique_ptr<APMQDF> document = Load(text);
-    const WorkingFolder in(folder_.Path());
-    PMLocalizeQDFByTranslationTable(document.get());
+    Again(*document);
     return document;
+  }
+  void Again(APMQDF& document) const {
+    const WorkingFolder in(folder_.Path());
+    PMLocalizeQDFByTranslationTable(&document);
   }
 
  private:
@@ -100,6 +103,15 @@ TEST_F(Localise, TakesFieldsThatAreFull) {
   EXPECT_EQ(names[0], "short");
   EXPECT_EQ(names[1], std::string(256, 'x'));
   EXPECT_EQ(names.back(), std::string(64, 'x'));
+}
+
+TEST_F(Localise, LooksUpTheTranslationsInASecondCall) {
+  const auto document = Localised("One=Two\nTwo=three\n");
+  EXPECT_EQ(DisplayNames(*document).at(0), "Two");
+  EXPECT_EQ(DisplayNames(*document).at(1), "three");
+  Again(*document);
+  EXPECT_EQ(DisplayNames(*document).at(0), "three");
+  EXPECT_EQ(DisplayNames(*document).at(1), "three");
 }
 
 TEST_F(Localise, ChangesNothingWithoutATable) {

@@ -116,6 +116,13 @@ TEST(WriteDocument, WithoutMemoryForTheTreeTheFormerFileStays) {
 class HostDocument : public APMQDF {
  public:
   AString GetProdcutType() override { return "Host's"; }
+  AString GetCustomMediaFile() override { return "host.txt"; }
+  int GetMarginInfoList(const int& mediaSource, const int& mediaSize,
+                        std::vector<MarginInfo>& margins, int& /*defaultPosition*/) override {
+    margins.push_back({});
+    margins.back().ID = mediaSource * 10 + mediaSize;
+    return 1;
+  }
   int GetFullMediaTypeList(std::vector<MediaTypeInfo>& media) override {
     media.push_back({7, "", "", 0, "Own"});
     return 1;
@@ -123,9 +130,18 @@ class HostDocument : public APMQDF {
 };
 
 TEST(WriteDocument, AsksThroughTheVirtualOperations) {
+  const TempFolder folder;
+  const DocumentText text{.Definition = ListElement("MediaSourceList", Entries("3")) +
+                                        ListElement("MediaSizeList", Entries("4")) +
+                                        ListElement("MarginInfoList", Entries("1")),
+                          .SourceControl = SourceControl("[3[4[1]]]")};
+  AFilePath path(folder.Write("document.qdf", text.Text()).c_str());
   HostDocument document;
+  ASSERT_EQ(document.LoadQDFFile(path), 1);
   const std::string written = Written(document);
   EXPECT_EQ(Part(written, "ProductType"), "ProductType=Host's");
+  EXPECT_EQ(Part(written, "CustomMediaFile"), "CustomMediaFile=host.txt");
+  EXPECT_EQ(Part(written, "MediaSize"), "MediaSize(ID=4 MarginIDList=34)");
   EXPECT_EQ(Part(written, "MediaDef"),
             "MediaDef{ID=7 InternalName DisplayName=Own IsCustomizableMedia=0}");
 }
