@@ -5,6 +5,7 @@
 #include "qdf/control/levels.h"
 #include "qdf/definition/resolutionvalue.h"
 #include "qdf/support/hashindex.h"
+#include "qdf/support/hashmix.h"
 #include "qdf/support/numbers.h"
 #include "qdf/support/ownership.h"
 #include "qdf/support/text.h"
@@ -41,11 +42,11 @@ class OwnRecords {
  private:
   // Resolutions count as equal when their whole numbers are.
   static std::uint32_t Hash(std::string_view name, double x, double y) {
-    constexpr std::uint32_t kFactor = 31;
     const auto whole = [](double number) {
       return static_cast<std::uint32_t>(TruncateToInt(number));
     };
-    return (HashText(name) * kFactor + whole(x)) * kFactor + whole(y);
+    const std::uint64_t hash = MixHash(MixHash(HashText(name)) ^ whole(x));
+    return static_cast<std::uint32_t>(MixHash(hash ^ whole(y)));
   }
 
   bool Same(const DitherResolutionInfo& record, std::string_view name, double x, double y) const {

@@ -1,5 +1,7 @@
 #include "qdf/support/hashindex.h"
 
+const char hashmix::kAnchor = 0;
+
 void HashIndex::AddToTable(Entry entry) {
   if (many_.empty()) many_.assign(few_.begin(), few_.end());
   many_.push_back(entry);

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "qdf/support/hashmix.h"
+
 class HashIndex {
  public:
   void Add(std::uint32_t hash, int position) {
@@ -53,10 +55,10 @@ class HashIndex {
   static constexpr std::size_t kFew = 16;
   static constexpr std::uint32_t kFree = 0xFFFFFFFFU;
 
-  // Neighbouring hashes, such as ids that count up, shall not fill neighbouring slots.
+  // A hash may be an id, which whoever writes a document chooses: mixed, it leads to a slot that
+  // can't be foretold.
   std::size_t Scatter(std::uint32_t hash) const {
-    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15U;
-    return static_cast<std::size_t>((hash * kOdd) >> 32U) & (slots_.size() - 1);
+    return static_cast<std::size_t>(MixHash(hash)) & (slots_.size() - 1);
   }
   std::size_t Next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "qdf/support/hashmix.h"
+
 namespace {
 
 constexpr std::size_t kChunk = sizeof(std::uint64_t);
@@ -12,14 +14,23 @@ std::uint64_t ChunkAt(const char* text) {
   return chunk;
 }
 
-// Eight bytes at a time, each with these bits set; the last eight may overlap those before them.
-std::uint32_t Hash(std::string_view text, std::uint64_t setBits) {
+constexpr std::uint64_t InEachByte(unsigned int byte) { return 0x0101010101010101U * byte; }
+
+// UpperChar for each of eight bytes. The sums carry into a byte's highest bit where its lower seven
+// bits are at least those of `a`, or beyond those of `z`.
+std::uint64_t UpperChunk(std::uint64_t chunk) {
+  const std::uint64_t lowBits = chunk & InEachByte(0x7F);
+  const std::uint64_t fromA = lowBits + InEachByte(0x80 - 'a');
+  const std::uint64_t beyondZ = lowBits + InEachByte(0x7F - 'z');
+  const std::uint64_t isSmall = (fromA ^ beyondZ) & ~chunk & InEachByte(0x80);
+  return chunk ^ isSmall >> 2U;
+}
+
+// Eight bytes at a time, each eight as `fold` gives them; the last may overlap those before them.
+template <class Fold>
+std::uint32_t Hash(std::string_view text, Fold fold) {
   std::uint64_t hash = text.size();
-  const auto mix = [&](std::uint64_t chunk) {
-    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
-    hash = (hash ^ (chunk | setBits)) * kFactor;
-    hash ^= hash >> 32U;
-  };
+  const auto mix = [&](std::uint64_t chunk) { hash = MixHash(hash ^ fold(chunk)); };
   if (text.size() < kChunk) {
     std::uint64_t chunk = 0;
     for (const char c : text) chunk = chunk << 8U | static_cast<unsigned char>(c);
@@ -44,11 +55,11 @@ std::string_view Trimmed(std::string_view text) {
   return text;
 }
 
-std::uint32_t HashText(std::string_view text) { return Hash(text, 0); }
+std::uint32_t HashText(std::string_view text) {
+  return Hash(text, [](std::uint64_t chunk) { return chunk; });
+}
 
-// The bit in which small and capital letters differ is set in every byte; that it makes some other
-// characters alike does no harm to a hash.
-std::uint32_t HashTextNoCase(std::string_view text) { return Hash(text, 0x2020202020202020U); }
+std::uint32_t HashTextNoCase(std::string_view text) { return Hash(text, UpperChunk); }
 
 void CopyToField(char* field, std::size_t size, std::string_view text) {
   const std::size_t used = std::min(size, text.size());

@@ -29,7 +29,8 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 // Without the white space at both ends.
 std::string_view Trimmed(std::string_view text);
 
-// Hashes for HashIndex: the second is the same for texts that differ in case only.
+// Hashes for HashIndex: the second is the same for texts that differ in the case of letters only.
+// They differ from one run of a program to the next.
 std::uint32_t HashText(std::string_view text);
 std::uint32_t HashTextNoCase(std::string_view text);
 

@@ -101,6 +101,27 @@ TEST_F(Hostile, ManyNodesNamesAndAttributes) {
   EXPECT_EQ(AskAll(*document, 1), 5U + kMany + kMany);
 }
 
+// Names in which only those bits differ that letters lose with their case, and resolutions whose
+// numbers make up for each other: a careless hash is the same for all.
+TEST_F(Hostile, NamesMadeToMeet) {
+  const auto marked = [](int i) {
+    std::string name;
+    for (int bit = 0; bit < 17; ++bit) name += (i >> bit & 1) != 0 ? '{' : '[';
+    return name;
+  };
+  const std::string profiles =
+      Repeated(kMany, [&](int i) { return "<ICCProfile>" + marked(i) + "</ICCProfile>"; });
+  const std::string dithers = Repeated(kMany, [](int i) {
+    return "<Dither Name='d' RipResolution='" + std::to_string(kMany - i) + "x" +
+           std::to_string(31 * i + 1) + "'/>";
+  });
+  const auto document =
+      Load({.Control =
+                Control("[1[1[1[1[1]]]]]", profiles + "<DitherList>" + dithers + "</DitherList>")});
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(AskAll(*document, 1), 5U + kMany + 1);
+}
+
 TEST_F(Hostile, NestingBeyondAnyStack) {
   for (const char* name : {"Ink", "Media", "QDF_Info", "ColorantList", "InkList"}) {
     const std::string open = "<" + std::string(name) + " ID='1'>";
