@@ -31,11 +31,7 @@ void ReadPieces(std::string_view text, const LevelIDs& level, UniqueIDs& ids) {
 }  // namespace
 
 LevelIDs::LevelIDs(const ADWordArray& ids) : ids_(ids) {
-  for (int i = 0; i < ids.GetSize(); ++i) index_.Add(ids.GetAt(i), i);
-}
-
-bool LevelIDs::Holds(std::uint32_t id) const {
-  return index_.Find(id, [](int) { return true; }) >= 0;
+  for (const std::uint32_t id : ids) known_.Add(id);
 }
 
 void ParseIDList(std::string_view text, const LevelIDs& level, ADWordArray& ids) {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "qdf/support/aarrays.h"
-#include "qdf/support/hashindex.h"
+#include "qdf/support/idset.h"
 
 // The ids of one level, in list order, with a way to find one.
 class LevelIDs {
@@ -15,11 +15,11 @@ class LevelIDs {
   explicit LevelIDs(const ADWordArray& ids);
 
   const ADWordArray& All() const { return ids_; }
-  bool Holds(std::uint32_t id) const;
+  bool Holds(std::uint32_t id) const { return known_.Holds(id); }
 
  private:
   ADWordArray ids_;
-  HashIndex index_;
+  IDSet known_;
 };
 
 // Puts the ids that the text names into `ids`, which the caller has emptied. Ids that aren't among

@@ -6,7 +6,7 @@
 #include "qdf/definition/mediasort.h"
 #include "qdf/definition/records.h"
 #include "qdf/definition/resolutionvalue.h"
-#include "qdf/support/hashindex.h"
+#include "qdf/support/idset.h"
 #include "qdf/support/ownership.h"
 
 namespace {
@@ -105,33 +105,21 @@ bool ReadEntry(const Entry& entry, ColorModeInfo& colorMode) {
   return true;
 }
 
-// Knows which ids a list of records holds.
 template <class Record>
-class KnownIDs {
- public:
-  explicit KnownIDs(const APtrArray& list) {
-    for (int i = 0; i < list.GetSize(); ++i) Add(*static_cast<Record*>(list.GetAt(i)));
-  }
-
-  bool Holds(const Record& record) const {
-    return index_.Find(static_cast<std::uint32_t>(record.ID), [](int) { return true; }) >= 0;
-  }
-  void Add(const Record& record) { index_.Add(static_cast<std::uint32_t>(record.ID), 0); }
-
- private:
-  HashIndex index_;
-};
+std::uint32_t IDOf(const Record& record) {
+  return static_cast<std::uint32_t>(record.ID);
+}
 
 template <class Record>
 void ReadEntries(AXMLTree& tree, const AXMLTreeNode& section, APtrArray& list) {
-  KnownIDs<Record> known(list);
+  IDSet known;
+  for (int i = 0; i < list.GetSize(); ++i) known.Add(IDOf(*static_cast<Record*>(list.GetAt(i))));
   const int count = tree.getChildCount(section);
   for (int i = 0; i < count; ++i) {
     Entry entry{tree, {}};
     if (tree.getChild(i, section, entry.element) == 0) continue;
     auto record = std::make_unique<Record>();
-    if (!ReadEntry(entry, *record) || known.Holds(*record)) continue;
-    known.Add(*record);
+    if (!ReadEntry(entry, *record) || !known.Add(IDOf(*record))) continue;
     AddOwned(list, std::move(record));
   }
 }

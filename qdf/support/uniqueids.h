@@ -6,21 +6,19 @@
 #include <cstdint>
 
 #include "qdf/support/aarrays.h"
-#include "qdf/support/hashindex.h"
+#include "qdf/support/idset.h"
 
 class UniqueIDs {
  public:
   explicit UniqueIDs(ADWordArray& ids) : ids_(ids) {
-    for (int i = 0; i < ids.GetSize(); ++i) index_.Add(ids.GetAt(i), i);
+    for (const std::uint32_t id : ids) known_.Add(id);
   }
 
-  bool Holds(std::uint32_t id) const {
-    return index_.Find(id, [](int) { return true; }) >= 0;
-  }
+  bool Holds(std::uint32_t id) const { return known_.Holds(id); }
 
   // Appends the id unless the array holds it.
   void Add(std::uint32_t id) {
-    if (!Holds(id)) index_.Add(id, ids_.Add(id));
+    if (known_.Add(id)) ids_.Add(id);
   }
 
   void AddAll(const ADWordArray& source) {
@@ -29,5 +27,5 @@ class UniqueIDs {
 
  private:
   ADWordArray& ids_;
-  HashIndex index_;
+  IDSet known_;
 };

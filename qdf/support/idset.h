@@ -1,0 +1,24 @@
+#pragma once
+
+// A set of ids that is never walked, for arrays and lists that keep the order themselves.
+
+#include <cstdint>
+
+#include "qdf/support/hashindex.h"
+
+class IDSet {
+ public:
+  bool Holds(std::uint32_t id) const {
+    return index_.Find(id, [](int) { return true; }) >= 0;
+  }
+
+  // False when the set holds the id already.
+  bool Add(std::uint32_t id) {
+    if (Holds(id)) return false;
+    index_.Add(id, 0);
+    return true;
+  }
+
+ private:
+  HashIndex index_;
+};
