@@ -27,11 +27,11 @@ constexpr std::array<Level, kLevels> kLevelForms = {{{"Ink", "DefaultMedia"},
 
 class ControlReader {
  public:
-  ControlReader(AXMLTree& tree, std::array<LevelIDs, kLevels> ids, AStringArray& profileList,
+  ControlReader(AXMLTree& tree, const std::array<LevelIDs, kLevels>& ids, AStringArray& profileList,
                 AStringArray& oemInfoList, AStringArray& ditherNameList,
                 APtrArray& ditherResolutionList)
       : tree_(tree),
-        ids_(std::move(ids)),
+        ids_(ids),
         profiles_(profileList, NameCase::Ignored),
         oemInfos_(oemInfoList, NameCase::Ignored),
         ditherNames_(ditherNameList, NameCase::Exact),
@@ -91,7 +91,7 @@ class ControlReader {
   }
 
   AXMLTree& tree_;
-  std::array<LevelIDs, kLevels> ids_;
+  const std::array<LevelIDs, kLevels>& ids_;
   NameTable profiles_;
   NameTable oemInfos_;
   NameTable ditherNames_;
@@ -108,11 +108,11 @@ int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaLi
   if (tree == nullptr) return 0;
   AXMLTreeNode section;
   if (tree->getItem("Control_Definition", section) == 0) return 1;
-  ControlReader reader(*tree,
-                       {IDsOf<InkTypeInfo>(inkList), IDsOf<MediaTypeInfo>(mediaList),
-                        IDsOf<PrintModeInfo>(printModeList), IDsOf<ResolutionInfo>(resolutionList),
-                        IDsOf<ColorModeInfo>(colorModeList)},
-                       profileList, oemInfoList, ditherNameList, ditherResolutionList);
+  const std::array<LevelIDs, kLevels> ids = {
+      IDsOf<InkTypeInfo>(inkList), IDsOf<MediaTypeInfo>(mediaList),
+      IDsOf<PrintModeInfo>(printModeList), IDsOf<ResolutionInfo>(resolutionList),
+      IDsOf<ColorModeInfo>(colorModeList)};
+  ControlReader reader(*tree, ids, profileList, oemInfoList, ditherNameList, ditherResolutionList);
   root.Default = ReadDefault(*tree, section, "DefaultInk");
   reader.ReadLevel(0, section, root);
   return 1;

@@ -13,6 +13,10 @@
 
 class HashIndex {
  public:
+  HashIndex() = default;
+  HashIndex(const HashIndex&) = delete;
+  HashIndex& operator=(const HashIndex&) = delete;
+
   void Add(std::uint32_t hash, int position) {
     if (size_ < kFew) {
       few_[size_] = {hash, position};
@@ -67,7 +71,7 @@ class HashIndex {
   void LinkFrom(std::size_t first);
 
   std::size_t size_ = 0;
-  std::array<Entry, kFew> few_;
+  std::array<Entry, kFew> few_;       // set as far as size_ tells, so that an index costs nothing
   std::vector<Entry> many_;           // all entries, once they are more than a few
   std::vector<std::uint32_t> slots_;  // indices into many_; at most half of them taken
 };
