@@ -14,12 +14,16 @@
 namespace {
 
 // The records of one colour mode. Only those can be equal to a new one, since each record names its
-// owner, and the owner's IDs tell which they are.
+// owner. Of a new owner there are none yet.
 class OwnRecords {
  public:
-  OwnRecords(CQDFNode* owner, APtrArray& records) : owner_(owner), records_(records) {
-    for (const std::uint32_t id : owner->IDs) {
-      if (id < static_cast<std::uint32_t>(records.GetSize())) Remember(static_cast<int>(id));
+  OwnRecords(CQDFNode* owner, APtrArray& records)
+      : owner_(owner), records_(records), ids_(owner->IDs) {}
+
+  // For an owner that may have been here before.
+  void FindFormer() {
+    for (int i = 0; i < records_.GetSize(); ++i) {
+      if (At(i).OwnerNode == owner_) Remember(i);
     }
   }
 
@@ -27,7 +31,10 @@ class OwnRecords {
     name = name.substr(0, sizeof DitherResolutionInfo::Name);
     const std::uint32_t hash = Hash(name, x, y);
     const auto same = [&](int i) { return Same(At(i), name, x, y); };
-    if (index_.Find(hash, same) >= 0) return;
+    if (const int former = index_.Find(hash, same); former >= 0) {
+      ids_.Add(static_cast<std::uint32_t>(former));
+      return;
+    }
     auto record = std::make_unique<DitherResolutionInfo>();
     SetField(record->Name, name);
     record->XResolution = x;
@@ -36,7 +43,7 @@ class OwnRecords {
     AddOwned(records_, std::move(record));
     const int added = records_.GetSize() - 1;
     index_.Add(hash, added);
-    owner_->IDs.Add(static_cast<std::uint32_t>(added));
+    ids_.Add(static_cast<std::uint32_t>(added));
   }
 
  private:
@@ -49,10 +56,10 @@ class OwnRecords {
     return static_cast<std::uint32_t>(MixHash(hash ^ whole(y)));
   }
 
-  bool Same(const DitherResolutionInfo& record, std::string_view name, double x, double y) const {
+  static bool Same(const DitherResolutionInfo& record, std::string_view name, double x, double y) {
     return FieldText(record.Name) == name &&
            TruncateToInt(record.XResolution) == TruncateToInt(x) &&
-           TruncateToInt(record.YResolution) == TruncateToInt(y) && record.OwnerNode == owner_;
+           TruncateToInt(record.YResolution) == TruncateToInt(y);
   }
 
   const DitherResolutionInfo& At(int index) const {
@@ -66,18 +73,15 @@ class OwnRecords {
 
   CQDFNode* owner_;
   APtrArray& records_;
+  UniqueIDs ids_;
   HashIndex index_;
 };
 
-}  // namespace
-
-void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
-                    AXMLTreeNode& ditherList, NameTable& ditherNames,
-                    APtrArray& ditherResolutionList, std::string_view defaultDither) {
+void ReadDitherList(CQDFNode* ditherNode, AXMLTree* tree, const AXMLTreeNode& ditherList,
+                    NameTable& ditherNames, OwnRecords& records, std::string_view defaultDither) {
   InternDefaultStringExact(ditherNode, ditherNames, defaultDither);
   const bool supportsAll = ReadInt(tree->attributeText(ditherList, "SupportAll")) > 0;
   UniqueIDs dithers(ditherNode->IDs);
-  OwnRecords records(ripResolutionNode, ditherResolutionList);
   ForEachChild(*tree, ditherList, "Dither", [&](const AXMLTreeNode& dither) {
     const char* name = tree->attributeText(dither, "Name");
     if (*name == '\0') return;
@@ -90,10 +94,20 @@ void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree*
   });
 }
 
+}  // namespace
+
+void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
+                    AXMLTreeNode& ditherList, NameTable& ditherNames,
+                    APtrArray& ditherResolutionList, std::string_view defaultDither) {
+  OwnRecords records(ripResolutionNode, ditherResolutionList);
+  ReadDitherList(ditherNode, tree, ditherList, ditherNames, records, defaultDither);
+}
+
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, AStringArray& ditherNameList,
                     APtrArray& ditherResolutionList, AString defaultDither) {
   NameTable names(ditherNameList, NameCase::Exact);
-  ReadDitherList(ditherNode, ripResolutionNode, tree, ditherList, names, ditherResolutionList,
-                 View(defaultDither));
+  OwnRecords records(ripResolutionNode, ditherResolutionList);
+  records.FindFormer();
+  ReadDitherList(ditherNode, tree, ditherList, names, records, View(defaultDither));
 }

@@ -18,12 +18,14 @@ struct DitherResolutionInfo {
 // Reads a DitherList element into the two leaves of a colour mode. The default dither, trimmed,
 // enters the name list and the DitherNode's Default. Dither names enter the DitherNode unless the
 // list supports all dithers; a dither with two positive numbers gives a record, once for equal ones
-// of this colour mode.
+// of this colour mode; a record that is there already enters the RipResolutionNode if it isn't yet
+// in it.
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, AStringArray& ditherNameList,
                     APtrArray& ditherResolutionList, AString defaultDither);
 
-// The same with the table of the name list that the caller keeps over many lists.
+// The same for new leaves, of which there are no records yet, with the table of the name list that
+// the caller keeps over many lists.
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, NameTable& ditherNames,
                     APtrArray& ditherResolutionList, std::string_view defaultDither);

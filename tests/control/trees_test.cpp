@@ -135,6 +135,10 @@ TEST(ControlTree, DitherListsAppend) {
     EXPECT_EQ(Dump(dithers) + " " + Dump(resolutions) + " " + Dump(names), "1,0 0 a|b");
     EXPECT_EQ(records.GetSize(), 1);
   }
+  resolutions.IDs.SetSize(0, -1);
+  ReadDitherList(&dithers, &resolutions, tree.get(), list, names, records, "");
+  EXPECT_EQ(Dump(resolutions), "0") << "a record that only its list knows";
+  EXPECT_EQ(records.GetSize(), 1);
   CQDFNode other;
   ReadDitherList(&dithers, &other, tree.get(), list, names, records, "");
   EXPECT_EQ(Dump(dithers) + " " + Dump(other), "1,0 1");
