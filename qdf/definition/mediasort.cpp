@@ -43,6 +43,8 @@ class Queue {
     if (!ring_.empty()) head_ = (head_ + (smaller - smallerSeen_)) % ring_.size();
     smallerSeen_ = smaller;
   }
+  // Moves what is behind the head, but as one block of pointers: only a list far longer than any
+  // printer's would show it.
   void Join(MediaTypeInfo* media) {
     ring_.insert(ring_.begin() + static_cast<std::ptrdiff_t>(head_), media);
     ++head_;

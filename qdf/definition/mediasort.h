@@ -7,6 +7,5 @@
 // Sorts MediaTypeInfo records by the bytes of their UnlocalizedName. Customizable media keep their
 // positions, and the others are sorted in the positions around them. Media of one name end up in
 // the order that an exchange sort leaves, which compares each record with all behind it and
-// exchanges the two when the first is greater; hosts and stored ids have come to depend on that
-// order.
+// exchanges the two when the first is greater: that order is part of the answer.
 void SortMedia(APtrArray& mediaList);
