@@ -1,8 +1,8 @@
 #pragma once
 
-// The option tree. A node stands for a set of options of one kind, and its children say what may
-// follow those options, so one id can stand in several nodes of a level, each with a subtree of its
-// own.
+// The option tree. All options of one node, which are of one kind, have the same continuations:
+// these are its children. Where continuations differ, the same id may occur in several nodes of a
+// level, and each of them has its own subtree.
 //
 // The control tree: root, ink, media, print mode, resolution and colour mode nodes, and under each
 // colour mode node the leaves ProfileNode, DitherNode and RipResolutionNode, in this order. A tree
@@ -10,7 +10,6 @@
 // other two. The media source tree: root, media source, media size and margin nodes.
 
 #include <cstdint>
-#include <vector>
 
 #include "qdf/support/aarrays.h"
 #include "qdf/support/export.h"
@@ -38,13 +37,15 @@ class APMQDF_EXPORT CQDFNode {
   APtrArray Children;
 };
 
+// The operations from here on are the library's own: they aren't exported.
+
 // A new node with these ids and nothing else; the caller owns it until a parent does.
 CQDFNode* MakeNodeFromIDs(ADWordArray& source);
 
 // 1 when the id stands in the array, else 0.
 int IsIDInArray(std::uint32_t id, ADWordArray& ids);
 
-// Appends to the target each id of the source that it doesn't hold yet, in the order of the source.
+// Adds what the source has and the target lacks, in source order, at the target's end.
 void MergeIDArray(ADWordArray& target, ADWordArray& source);
 
 inline CQDFNode* ChildAt(const CQDFNode& node, int index) {
