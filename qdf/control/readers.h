@@ -1,9 +1,9 @@
 #pragma once
 
-// The readers of the two sections that say what may be combined. Both append to the tree, which is
-// empty on a fresh document. What they don't understand they skip with all that is under it: an
-// element of another name, or one whose id list names no id of its level. The result is 0 for a
-// null tree, else 1, also when the document lacks the section.
+// The readers of the two sections that become trees. Nodes are added to those that the tree has: a
+// new document has none. What they don't understand they skip with all that is under it: an element
+// of another name, or one whose id list names no id of its level. They answer 0 for a null tree
+// only: a document needn't have the section. When memory runs out bad_alloc passes through them.
 
 #include "qdf/core/qdfnode.h"
 #include "qdf/support/aarrays.h"

@@ -83,7 +83,7 @@ class APMQDF_EXPORT APMQDF {
   virtual int GetOEMInfo(const int& ink, const int& media, const int& printMode,
                          const int& resolution, const int& colorMode, AString& text);
 
-  // A resolution's display id and its id are one number: copies it, and always answers 1.
+  // Copies the number, since resolutions have no display ids beside their ids; always answers 1.
   virtual int GetResolutionIDFromDisplayID(const int& ink, const int& media, const int& printMode,
                                            const int& displayID, int& resolution);
 
@@ -96,7 +96,8 @@ class APMQDF_EXPORT APMQDF {
   virtual int GetFullMediaSourceInfoList(std::vector<MediaSourceInfo>& mediaSources);
 
   // The resolution at which a job is rasterised for a dither of a combination, by the dither's name
-  // with case. 1 when the document gives one; else 0 and both numbers 0.0.
+  // with case. 1 when the document gives one; else 0 and both numbers 0.0. Nothing is found for a
+  // name of more than 64 characters, since the document's own are cut there.
   virtual int GetRipResolutionForDither(const int& ink, const int& media, const int& printMode,
                                         const int& resolution, const int& colorMode,
                                         const AString& dither, double& x, double& y);
@@ -107,7 +108,7 @@ class APMQDF_EXPORT APMQDF {
   virtual AString GetTranslationTable();
   virtual AString GetCustomMediaFile();
 
-  // Fills the lists and the control tree of a fresh object from HPResourceInfo records. Inks are
+  // Makes the lists and the control tree from HPResourceInfo records; for a fresh object. Inks are
   // copied from the previous document, and media that it had keep their ids. 0 when a step has no
   // result; what was derived before it stays. The arrays stay as they are, and nothing of them is
   // kept.
@@ -155,7 +156,8 @@ class APMQDF_EXPORT APMQDF {
   void PMWriteQDF(AFilePath& path);
 
   // Appends a deep copy of what is in and under the source to the target, and sets the target's
-  // Default. False, and nothing changed, for a null source.
+  // Default. False, and nothing changed, for a null source; false also when memory runs out, and
+  // the part that was copied until then stays.
   bool PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target);
 
  private:

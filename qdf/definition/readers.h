@@ -3,8 +3,9 @@
 // The readers of the Definition section. Each goes through the entries of its list in document
 // order, whatever their element names, and appends a new record to the list, which owns it from
 // then on. A value that an entry lacks is 0 or empty; a name is cut at its field. The first record
-// with an id stands: an entry whose id the list holds already is dropped. The result is 1 when the
-// list holds a record afterwards, else 0, and always 0 for a null tree.
+// with an id stands: an entry whose id the list holds already is dropped. They answer 0 when the
+// list is empty afterwards or the tree null, else 1. When memory runs out bad_alloc passes through
+// them.
 
 #include "qdf/support/aarrays.h"
 #include "qdf/support/axmltree.h"
