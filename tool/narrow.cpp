@@ -1,4 +1,4 @@
-// qdf narrow: a print job step by step, with the choices made so far.
+// qdf narrow: what the choices made so far leave open for a print job.
 
 #include <algorithm>
 #include <optional>

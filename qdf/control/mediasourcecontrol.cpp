@@ -1,5 +1,5 @@
-// Reads MediaSource_Control. The margins of a size stand on its element, but in the tree they get a
-// node of their own below it.
+// Reads MediaSource_Control. A MediaSize element names both sizes and margins, for which the tree
+// has a level each.
 
 #include "qdf/control/levels.h"
 #include "qdf/control/readers.h"

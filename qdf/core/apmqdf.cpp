@@ -51,7 +51,7 @@ int APMQDF::LoadQDFFile(AFilePath& path) {
   });
 }
 
-// The lists come before the trees, since a tree keeps only ids that its lists hold.
+// Lists first: whoever reads a tree asks them which ids exist.
 int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
   return Guarded(0, [&] {
     ReadText(tree, "ProductType", ProductType);

@@ -1,8 +1,8 @@
 #pragma once
 
-// ANewColorOpt describes one colorant of a colour mode: who it is, its screen, a 21-point curve and
-// settings that the library keeps for the host without looking at them. A host asks of two records
-// whether a change from one to the other means that a job has to be rasterised again.
+// ANewColorOpt is a colorant as a colour mode uses it: identity, screen, a curve of 21 points, and
+// settings that the library keeps for the host without looking at them. Two records can be compared
+// for whether a job that is rasterised already still suits the new one.
 //
 // The character fields hold a terminating zero only when their text is shorter than the field.
 
@@ -29,9 +29,9 @@ class APMQDF_EXPORT ANewColorOpt {
   ANewColorOpt(const ANewColorOpt&) = delete;
   const ANewColorOpt& operator=(const ANewColorOpt& other);
 
-  // 1 when a job that was rasterised with `other` has to be rasterised again for this record, else
-  // 0. Setting9, CurveFlags and IsPrint play no part. A curve point that differs by 0.0000001 or
-  // more counts.
+  // 1 when what was rasterised with `other` doesn't suit this record, so that the job must be
+  // rasterised anew; else 0. Setting9, CurveFlags and IsPrint play no part. A curve point that
+  // differs by 0.0000001 or more counts.
   int ColorOptionRequireReRip(const ANewColorOpt& other) const;
 
   // 1 when the records differ, else 0. CurveFlags plays no part. A curve point counts as different

@@ -1,12 +1,11 @@
 #pragma once
 
-// The records that a document's Definition section is made of. Hosts get copies of them, so the
-// fields, their order and their widths are part of the interface.
+// The records that a document's Definition section is made of. Hosts get copies of them and are
+// compiled against their layout: no field may move, grow or shrink.
 //
-// A name of 256 characters fills its field and leaves no terminating zero: treat every name as a
-// text of at most 256 characters. Names are 8-bit texts that passed through unchanged. An id is
-// unique within its list. The numbers carry no unit: the library reads them, hands them out and
-// writes them back.
+// A name that fills its field of 256 characters has no terminating zero, so never read a name
+// without a bound. Names are 8-bit texts that passed through unchanged. An id is unique within its
+// list. The numbers carry no unit, and the library never converts them.
 
 #include "qdf/definition/anewcoloropt.h"
 #include "qdf/support/export.h"
@@ -45,8 +44,7 @@ struct MediaSourceInfo {
   char InternalName[256];
 };
 
-// First and second say where a number stands in the document, not which side of a page it belongs
-// to.
+// First and second count the numbers of the document's text; neither means width or length.
 struct MediaSizeInfo {
   int ID;
   int PCLid;

@@ -22,8 +22,8 @@ constexpr std::array<InkLayout, 2> kLayouts = {{{"KCcMmY", "CMYKLcLm"}, {"KCMY",
 
 constexpr std::string_view kGrayModeName = "Gray Scale";
 
-// The colorants stand in this order whatever that of the letters is: K, C, M and Y make up the
-// first four, c and m the others.
+// Always in this order, not in that of the letters: K, C, M and Y make up the first four, c and m
+// the others.
 constexpr std::array<std::string_view, 6> kColorants = {"Cyan",  "Magenta", "Yellow",
                                                         "Black", "LCyan",   "LMagenta"};
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // The control tree of a document, derived from HPResourceInfo records: each resource stands for one
-// path, from its media down to its colour modes, and gives that path a profile and a dither.
+// path, from its media down to its colour modes, with a profile and a dither for it.
 
 #include "qdf/core/qdfnode.h"
 #include "qdf/support/aarrays.h"

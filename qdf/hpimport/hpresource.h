@@ -1,9 +1,9 @@
 #pragma once
 
-// HP resources: what HP ships for a printer is a folder tree with one small XML file for each
-// pairing of a media and a print quality. A resource file stands two levels below its media folder
-// and bears the names of both folders: Glossy/best/Glossy_best.xml. Whatever else lies in the tree
-// is no resource.
+// HP resources: what HP ships for a printer is a folder tree with one small XML file for each media
+// in each print quality. A resource file stands two levels below its media folder and bears the
+// names of both folders: Glossy/best/Glossy_best.xml. Whatever else lies in the tree is no
+// resource.
 
 #include "qdf/support/aarrays.h"
 #include "qdf/support/astring.h"

@@ -22,6 +22,5 @@ void LoadHPResourceFile(AFilePath& path, APtrArray& records, AString mediaName, 
 // its own. Nothing is validated. 0 for a null tree, else 1.
 int ParseHPResourceFile(AXMLTree* tree, HPResourceInfo* record);
 
-// The whole bits that so many levels fill: the greatest n with 2 to the power n not above them, 0
-// below 1.
+// The whole bits that so many levels fill: their binary logarithm, rounded down, and 0 below 1.
 int LevelsToDepth(int levels);

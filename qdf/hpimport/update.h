@@ -1,6 +1,6 @@
 #pragma once
 
-// A printer's QDF document follows a new set of HP resources.
+// Brings a printer's QDF document up to date when its HP resources have changed.
 
 #include "qdf/support/afilepath.h"
 #include "qdf/support/export.h"

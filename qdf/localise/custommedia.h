@@ -1,8 +1,8 @@
 #pragma once
 
 // CCustomMediaInfoInter holds what a user has set for an output device: display names and ICC
-// profiles of media, and a list of ICC profiles. It keeps them in a small text file in
-// OutputDrivers, which a document names (APMQDF::GetCustomMediaFile).
+// profiles of media, and a list of ICC profiles. Their place is a small text file in OutputDrivers,
+// which a document names (APMQDF::GetCustomMediaFile).
 //
 // The file is made of lines, in any order and with white space around each part:
 //

@@ -1,6 +1,6 @@
 #pragma once
 
-// The display names of a loaded document, translated.
+// Translates what people read of a document: its display names.
 
 #include "qdf/core/apmqdf.h"
 #include "qdf/support/export.h"

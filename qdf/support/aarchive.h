@@ -1,9 +1,9 @@
 #pragma once
 
 // AArchive stores values in a file of the host's and reads them back: numbers, texts and groups. A
-// group tells its values apart by tags, so that records can grow: a reader skips tags that it
-// doesn't know, and what a tag that isn't there would hold reads as zeros and empty texts. The
-// bytes stand in docs/archive.md.
+// group tells its values apart by tags, so that records can grow: an unknown tag is passed over by
+// a reader, and what a tag that isn't there would hold reads as zeros and empty texts. The bytes
+// stand in docs/archive.md.
 //
 //   AArchive file(path, AArchive::Direction::Writing);
 //   file << record << another;
@@ -32,7 +32,7 @@ class APMQDF_EXPORT AArchiveException : public std::exception {
   ~AArchiveException() override;
   const char* what() const noexcept override;
 
-  int Cause;         // kReadOnly: a value was written to an archive that is open for reading
+  int Cause;         // kReadOnly: a reading archive was told to write a value
   AString FileName;  // the archive's path
 };
 
@@ -72,11 +72,12 @@ class APMQDF_EXPORT AArchive {
   // does nothing.
   AArchive& TagStart();
   AArchive& TagEnd();
-  // Names the value or values that follow in the group. Writer and reader name the same tags in the
-  // same, rising, order. Outside of groups values simply follow each other, and this does nothing.
+  // Names the value or values that follow in the group. Tags rise within a group, and a reader
+  // names those that the writer named. Outside of groups values simply follow each other, and this
+  // does nothing.
   AArchive& Tag(unsigned char tag);
-  // Reading: the same, and non-zero when the group holds that tag; 0 when the archive is open for
-  // writing. Outside of groups non-zero until the end.
+  // Reading: the same, and whether the tag is in the group, non-zero if so; 0 when the archive is
+  // open for writing. Outside of groups non-zero until the end.
   int GetTag(unsigned char tag);
 
   // Each of 4 bytes, but 8 for a double. Reading what isn't there gives 0, and so does an archive

@@ -40,10 +40,10 @@ class AStdioFile : public AFile {
   int Open(AFilePath& path, unsigned int mode, AFileException* exception, EFileKind kind);
 
   // Reads up to the end of the line, which stays in the buffer, or as much of the line as fits: the
-  // next call goes on there. So with a buffer of 1,024 characters a longer line comes in pieces of
-  // 1,023. The buffer is ended by a NUL; a NUL within a line ends the text there as well, and what
-  // stands behind it in the piece isn't seen. Null at the end of the file, when the file isn't open
-  // for reading, and for a capacity that leaves no room for a character.
+  // next call goes on there. So a capacity of 1,024 cuts a longer line into pieces of 1,023
+  // characters. The buffer is ended by a NUL; a NUL within a line ends the text there as well, and
+  // what stands behind it in the piece isn't seen. Null at the end of the file, when the file isn't
+  // open for reading, and for a capacity that leaves no room for a character.
   char* ReadString(char* buffer, unsigned int capacity);
 
   // The number, from 1, of the line that was read last, also when it came in pieces.

@@ -12,8 +12,8 @@ class APMQDF_EXPORT AFilePath {
   AFilePath() = default;
   explicit AFilePath(const char* path) : path_(path) {}
 
-  // Joins one component, with exactly one "/" between it and what stands before it. A component
-  // that begins with "/" never replaces what stands before it. An empty one changes nothing.
+  // Joins one component, with exactly one "/" at the joint. One that begins with "/" is joined like
+  // any other, not taken for an absolute path. An empty one changes nothing.
   AFilePath& operator+=(const char* component);
   AFilePath& operator+=(const AString& component);
 

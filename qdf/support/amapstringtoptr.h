@@ -21,7 +21,7 @@ class APMQDF_EXPORT AMapStringToPtr {
 
   // Keys are texts up to their NUL; a null pointer counts as an empty one.
   //
-  // Non-zero and the value when the key is there; otherwise 0, and the output is left alone.
+  // Answers non-zero and sets the output for a key of the map, else 0 and doesn't touch it.
   int Lookup(const char* key, void*& value) const;
   // A key that is there already keeps its place in the enumeration and gets the new value.
   void SetAt(const char* key, void* value);

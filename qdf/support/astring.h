@@ -46,8 +46,8 @@ class APMQDF_EXPORT AString {
   void TrimRight();
   void Empty() { text_.clear(); }
 
-  // Replaces the text with the printf-style expansion. The decimal sign is a point whatever the
-  // host's locale; a format that can't be expanded gives an empty text.
+  // The text becomes what printf would print. The decimal sign is a point whatever the host's
+  // locale; a format that can't be expanded gives an empty text.
   [[gnu::format(printf, 2, 3)]] AString& Format(const char* format, ...);
 
   AString& operator+=(const AString& other);

@@ -13,8 +13,8 @@ namespace pugi {
 struct xml_node_struct;
 }
 
-// A default-made handle refers to nothing. Copies refer to the same element. A handle is valid
-// until the tree is emptied or destroyed.
+// A default-made handle refers to nothing. Copies refer to the same element. Emptying, loading or
+// destroying the tree leaves its handles dangling.
 class AXMLTreeNode {
  public:
   AXMLTreeNode() = default;
@@ -42,7 +42,7 @@ struct AXMLFault {
 
 class AXMLTree {
  public:
-  // A tree that holds the root element only.
+  // Starts with nothing but a root element of that name.
   explicit AXMLTree(const AString& rootName);
   virtual ~AXMLTree();
   AXMLTree(const AXMLTree&) = delete;
@@ -70,8 +70,9 @@ class AXMLTree {
   // Drops all nodes, the root included. The argument has no meaning.
   void removeAll(int);
 
-  // Each of these gives non-zero and sets the output when the element exists; otherwise it gives 0
-  // and leaves the output alone. Only elements count as children; names are compared with case.
+  // Each of these gives non-zero and sets the output when the element exists; only then does it
+  // touch the output, else it gives 0. Only elements count as children; names are compared with
+  // case.
   int getRootNode(AXMLTreeNode& root) const;
   // The first child of the root with that name.
   int getItem(const char* name, AXMLTreeNode& item) const;

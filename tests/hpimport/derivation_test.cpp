@@ -138,7 +138,7 @@ TEST(DeriveTree, GivesEachResourceAPath) {
   // Qualities with one print quality share a node, media never.
   EXPECT_EQ(Tree({{}, {.quality = "draft"}, {.media = "B"}}),
             ">1[1>1[1>1[1,2[1[1,2[0;0>-1;0;0>-1]]]];2>1[1,2[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
-  // Two colour modes that share their grey one share a node, in the order in which they came.
+  // Two colour modes that share their grey one share a node, the earlier one first.
   EXPECT_EQ(Tree({{}, {.color = 3}, {.black = 4}}),
             ">1[1>1[1>1[1[1[1,2,3,4[0;0>-1;0;0>-1;0;0>-1]]]]]] f.xml p.icc 101");
 }

@@ -74,7 +74,7 @@ TEST(XMLTree, FindsTheFirstOfANameAndLeavesTheOutputOtherwise) {
   EXPECT_EQ(tree->getRootNode(root), 0);
 }
 
-// A walk from the first child each time would take minutes.
+// Starting over at the first child for each position would take minutes.
 TEST(XMLTree, GoesThroughManyChildrenInLoopsThatNest) {
   constexpr int kMany = 100'000;
   std::string text = "<r>";
