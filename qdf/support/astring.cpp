@@ -6,7 +6,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "qdf/support/clocale.h"
+#include "qdf/support/plainlocale.h"
 #include "qdf/support/text.h"
 
 AString::AString(const char* text) : text_(OrEmpty(text)) {}

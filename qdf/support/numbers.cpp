@@ -8,16 +8,10 @@
 #include <limits>
 #include <string>
 
-#include "qdf/support/clocale.h"
+#include "qdf/support/plainlocale.h"
 #include "qdf/support/text.h"
 
 namespace {
-
-// The "C" locale is static in the C library: naming it allocates nothing and needs no release.
-locale_t PlainLocale() {
-  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-  return plain;
-}
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -26,10 +20,6 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr std::size_t kExactDigits = 15;
 
 }  // namespace
-
-CLocale::CLocale() : former_(uselocale(PlainLocale())) {}
-
-CLocale::~CLocale() { uselocale(former_); }
 
 int ReadInt(const char* text) {
   while (IsSpace(*text)) ++text;
