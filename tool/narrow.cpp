@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <optional>
 
+#include "qdf/core/documentmembers.h"
+#include "qdf/query/treewalk.h"
+#include "qdf/support/text.h"
 #include "tool/cascade.h"
 #include "tool/command.h"
 #include "tool/load.h"
+#include "tool/ripresolutions.h"
 
 namespace {
 
@@ -129,20 +133,20 @@ class Walk {
   std::optional<Failure> deadEnd_;
 };
 
-// What the library says of one combination of all five ids.
+// What the library says of one combination of all five ids. It would look for the RIP resolution of
+// each dither among all of them.
 struct Details {
-  Details(APMQDF& document, const std::vector<int>& id) : document_(document), id_(id) {
+  Details(APMQDF& document, const std::vector<int>& id) {
     document.GetProfileList(id[0], id[1], id[2], id[3], id[4], profiles, defaultProfile);
     document.GetDitherList(id[0], id[1], id[2], id[3], id[4], dithers, defaultDither);
     document.GetOEMInfo(id[0], id[1], id[2], id[3], id[4], text);
+    const DocumentMembers members(document);
+    const CQDFNode* node = FindPath(members.ControlTreeRoot, {id[0], id[1], id[2], id[3], id[4]});
+    ripResolutions_ = RipResolutionsOf(node, members.DitherResolutionList);
   }
 
   Value RipResolution(const AString& dither) const {
-    double x = 0;
-    double y = 0;
-    const int known =
-        document_.GetRipResolutionForDither(id_[0], id_[1], id_[2], id_[3], id_[4], dither, x, y);
-    return known != 0 ? Value(Object({{"x", "", x}, {"y", "", y}}, "x")) : Value();
+    return RipResolutionValue(ripResolutions_.Find(View(dither)));
   }
 
   bool Any() const {
@@ -157,8 +161,7 @@ struct Details {
   AString text;
 
  private:
-  APMQDF& document_;
-  const std::vector<int>& id_;
+  RipResolutions ripResolutions_;
 };
 
 Value TextOrNull(const AString& text) {

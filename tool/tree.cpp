@@ -5,12 +5,12 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "qdf/control/ditherlist.h"
 #include "qdf/core/documentmembers.h"
 #include "qdf/support/text.h"
 #include "tool/command.h"
 #include "tool/load.h"
 #include "tool/printable.h"
+#include "tool/ripresolutions.h"
 
 namespace {
 
@@ -115,29 +115,6 @@ Value TextAt(const AStringArray& texts, int index) {
   return static_cast<const char*>(texts.ElementAt(index));
 }
 
-struct RipResolutions {
-  // The first record with a name stands.
-  std::unordered_map<std::string_view, const DitherResolutionInfo*> byName;
-  std::vector<const DitherResolutionInfo*> all;
-};
-
-RipResolutions RipResolutionsOf(const CQDFNode& leaf, const APtrArray& list) {
-  RipResolutions result;
-  for (const std::uint32_t id : leaf.IDs) {
-    const int index = static_cast<int>(id);
-    if (index < 0 || index >= list.GetSize()) continue;
-    const auto* record = static_cast<const DitherResolutionInfo*>(list.GetAt(index));
-    result.byName.emplace(FieldText(record->Name), record);
-    result.all.push_back(record);
-  }
-  return result;
-}
-
-Field RipResolutionField(const DitherResolutionInfo& record) {
-  return {"ripResolution", "",
-          Object({{"x", "", record.XResolution}, {"y", "", record.YResolution}}, "x")};
-}
-
 struct NamesLeaf {
   const char* key;
   const char* label;
@@ -168,25 +145,24 @@ void AddNames(const CQDFNode& leaf, const AStringArray& texts, const NamesLeaf& 
       {words.defaultKey, isPreset && !isListed ? words.defaultLabel : nullptr, std::move(preset)});
 }
 
-void AddDithers(const DocumentMembers& members, const CQDFNode& ditherLeaf, const CQDFNode& ripLeaf,
-                Object& object) {
+void AddDithers(const DocumentMembers& members, const CQDFNode& ditherLeaf,
+                const RipResolutions& rip, Object& object) {
   constexpr NamesLeaf kWords = {"dithers", "Dithers", "defaultDither", "Default dither"};
-  RipResolutions rip = RipResolutionsOf(ripLeaf, members.DitherResolutionList);
   std::unordered_set<std::string_view> listed;
   AddNames(ditherLeaf, members.DitherNameList, kWords, object,
            [&](const char* name, Object& dither) {
              listed.insert(name);
-             const auto found = rip.byName.find(name);
-             const bool known = found != rip.byName.end();
-             dither.Add(known ? RipResolutionField(*found->second)
-                              : Field{"ripResolution", nullptr, {}});
+             const DitherResolutionInfo* found = rip.Find(name);
+             const char* label = found != nullptr ? "" : nullptr;
+             dither.Add({"ripResolution", label, RipResolutionValue(found)});
            });
   // A document that supports all dithers still gives some of them a RIP resolution.
   List others;
   for (const DitherResolutionInfo* record : rip.all) {
     const std::string_view name = FieldText(record->Name);
     if (listed.count(name) != 0) continue;
-    others.emplace_back(Object{{"dither", "", name}, RipResolutionField(*record)});
+    others.emplace_back(
+        Object{{"dither", "", name}, {"ripResolution", "", RipResolutionValue(record)}});
   }
   const char* label = others.empty() ? nullptr : "RIP resolutions of other dithers";
   object.Add({"otherRipResolutions", label, std::move(others)});
@@ -201,7 +177,7 @@ void AddColorModeLeaves(const DocumentMembers& members, const CQDFNode& node, Ob
   object.Add(
       {"printerSpecificText", "Printer specific text", TextAt(members.OEMInfoList, node.Default)});
   AddNames(leaf(0), members.ICCProfileList, kProfiles, object, [](const char*, Object&) {});
-  AddDithers(members, leaf(1), leaf(2), object);
+  AddDithers(members, leaf(1), RipResolutionsOf(&node, members.DitherResolutionList), object);
 }
 
 TreeReport ControlTree(const DocumentMembers& members, int depth) {
