@@ -19,8 +19,9 @@ const Command* const kCommands[] = {
     &kTreeCommand,
 };
 
+// As with git, an empty folder changes nothing.
 void ChangeFolder(const std::string& folder) {
-  if (chdir(folder.c_str()) == 0) return;
+  if (folder.empty() || chdir(folder.c_str()) == 0) return;
   throw Failure(kWrongUsage, "can't work in " + Quoted(folder) + ": " + std::strerror(errno));
 }
 

@@ -95,6 +95,7 @@ TEST(CommandLine, FindsDocumentsByPathAndByName) {
       {{"show", "--", "--json"}, "Document:           --json"},
       {{"show", "./tree"}, "Document:           ./tree"},
       {{"-C", "sub", "show", "deep.qdf"}, "Document:           OutputDrivers/deep.qdf"},
+      {{"-C", "", "show", "tree"}, "Document:           tree"},
       {{"-C", "sub", "-C", "..", "show", "tree"}, "Document:           tree"},
   };
   for (const Refusal& each : found) {
