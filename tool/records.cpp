@@ -27,6 +27,14 @@ double Decimal(float number) {
   return decimal;
 }
 
+template <class Number, std::size_t N>
+List Numbers(const Number (&numbers)[N]) {
+  return List(std::begin(numbers), std::end(numbers));
+}
+
+double Unsigned(unsigned int number) { return number; }
+
+// The settings and the curve, which a document leaves at their defaults, are for programs only.
 Object MakeRow(const ANewColorOpt& option) {
   const ColorantInfo& colorant = option.Colorant;
   return {{"displayName", "Colorant", FieldText(colorant.DisplayName)},
@@ -36,7 +44,18 @@ Object MakeRow(const ANewColorOpt& option) {
           {"isPrint", "Print", colorant.IsPrint},
           {"shape", "Shape", FieldText(option.Shape)},
           {"frequency", "Frequency", Decimal(option.Frequency)},
-          {"angle", "Angle", Decimal(option.Angle)}};
+          {"angle", "Angle", Decimal(option.Angle)},
+          {"setting0", nullptr, option.Setting0},
+          {"setting4", nullptr, option.Setting4},
+          {"setting5", nullptr, option.Setting5},
+          {"setting6", nullptr, option.Setting6},
+          {"setting7", nullptr, option.Setting7},
+          {"setting8", nullptr, option.Setting8},
+          {"setting9", nullptr, Unsigned(option.Setting9)},
+          {"setting10", nullptr, Unsigned(option.Setting10)},
+          {"colorantSetting5", nullptr, Unsigned(colorant.ColorantSetting5)},
+          {"curveValues", nullptr, Numbers(option.CurveValues)},
+          {"curveFlags", nullptr, Numbers(option.CurveFlags)}};
 }
 
 }  // namespace
