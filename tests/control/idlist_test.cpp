@@ -57,7 +57,7 @@ TEST(IDList, ComparesAs32Bits) {
   EXPECT_EQ(Parsed("ALL", none) + Parsed("-(1)", none) + Parsed("1", none), "");
 }
 
-// The parse as it is told, step by step, on std::string.
+// The plainest way to the same answers: texts are cut and copied, and ids sought by walks.
 std::string PlainlyParsed(std::string text, const std::vector<std::uint32_t>& all) {
   const auto trimmed = [](std::string s) {
     const char* spaces = " \t\r\n\v\f";
@@ -97,7 +97,7 @@ std::string PlainlyParsed(std::string text, const std::vector<std::uint32_t>& al
   return Dump(Array(out));
 }
 
-TEST(IDList, ReadsRandomTextsAsToldStepByStep) {
+TEST(IDList, ReadsRandomTextsAsThePlainWayDoes) {
   const std::vector<std::uint32_t> ids = {3, 1, 0, 12, 2};
   ADWordArray all = Array(ids);
   const std::vector<std::string> pieces = {"1", "2", "12", "0", "3",  ",",   ",",   ",", "(",

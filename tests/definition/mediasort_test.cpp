@@ -13,7 +13,7 @@
 
 namespace {
 
-// The sort as it is told: quadratic, and unstable in its own way.
+// The exchange sort itself: quadratic, and unstable in its own way.
 void ExchangeSort(std::vector<MediaTypeInfo*>& media) {
   for (std::size_t i = 0; i < media.size(); ++i) {
     for (std::size_t j = i + 1; j < media.size(); ++j) {

@@ -66,7 +66,7 @@ TEST(Numbers, AreWhatTheCLibraryReads) {
   EXPECT_EQ(ReadInt(digits.c_str()), kMax);
 }
 
-// Against one call of sscanf, as the forms of these values are told.
+// Against one call of sscanf for all four numbers.
 TEST(Numbers, AreScannedBetweenBlanksAndCommas) {
   for (const std::string& text : Split(
            "|1,2,3,4|1 2 3 4| 1 ,\t2,,3\n4 5|8.5,11|1|1,x,3,4|1e,2,3,4|1e2e3 4|1.5.5 6|0x10,0x1p3|"

@@ -68,7 +68,6 @@ constexpr int kLeaves = 5;
 // What --json tells of a node and all below it must be what the library holds, whatever the level.
 void ExpectSame(const nlohmann::json& told, const CQDFNode& node, int level, int depth) {
   ASSERT_TRUE(told.is_object());
-  ASSERT_TRUE(told.is_object());
   if (level > 0) {
     std::vector<int> ids;
     for (const nlohmann::json& option : told["options"]) {
