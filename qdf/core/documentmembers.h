@@ -1,7 +1,7 @@
 #pragma once
 
 // The one door to what an APMQDF holds, for the library's own operations outside the class, for the
-// tool and for the tests. No host includes it.
+// tool, which shows the trees, and for the tests. No host includes it.
 
 #include "qdf/core/apmqdf.h"
 
