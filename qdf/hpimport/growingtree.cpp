@@ -66,12 +66,15 @@ CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
   // Without a move since then, the same child is still the first and holds all the ids.
   if (former != nullptr && former->moves == moves_) return *ChildAt(parent, former->child);
   const int child = FirstWithAny(parent, ids);
-  if (child == parent.Children.GetSize()) {
-    AddChildNode(parent, ids);
-  } else {
-    MergeIDArray(*ChildAt(parent, child), ids);
+  const bool isNew = child == parent.Children.GetSize();
+  CQDFNode& node = isNew ? *AddChildNode(parent, ids) : *ChildAt(parent, child);
+  // An id stands in the child exactly when the child is its holder, so merging needs no search.
+  for (const std::uint32_t id : ids) {
+    const Holder* holder = HolderOf(parent, id);
+    if (holder != nullptr && holder->child == child) continue;
+    if (!isNew) node.IDs.Add(id);
+    SetHolder(parent, id, child);
   }
-  for (const std::uint32_t id : ids) SetHolder(parent, id, child);
   if (isLarge) Remember(parent, ids, child);
-  return *ChildAt(parent, child);
+  return node;
 }
