@@ -20,6 +20,9 @@ struct DocumentMembers {
         DitherNameList(document.DitherNameList),
         DitherResolutionList(document.DitherResolutionList),
         ControlTreeRoot(document.ControlTreeRoot),
+        ProductType(document.ProductType),
+        TranslationTable(document.TranslationTable),
+        CustomMediaFile(document.CustomMediaFile),
         MediaSourceTreeRoot(document.MediaSourceTreeRoot),
         LackedMemory(document.LackedMemory) {}
 
@@ -36,6 +39,9 @@ struct DocumentMembers {
   AStringArray& DitherNameList;
   APtrArray& DitherResolutionList;
   CQDFNode& ControlTreeRoot;
+  AString& ProductType;
+  AString& TranslationTable;
+  AString& CustomMediaFile;
   CQDFNode& MediaSourceTreeRoot;
   bool& LackedMemory;
 };

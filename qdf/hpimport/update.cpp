@@ -20,11 +20,10 @@ int TakeOver(APMQDF& document, APMQDF& previous) {
   double margin[4];
   previous.GetMediaSizeLimits(limit[0], limit[1], limit[2], limit[3]);
   previous.GetMinimumMargin(margin[0], margin[1], margin[2], margin[3]);
-  return document.InitiateAPMQDF(previous.GetProdcutType(), previous.GetTranslationTable(),
-                                 previous.GetCustomMediaFile(), limit[0], limit[1], limit[2],
-                                 limit[3], margin[0], margin[1], margin[2], margin[3],
-                                 former.MediaSourceList, former.MediaSizeList,
-                                 former.MarginInfoList, previous.GetMediaSourceTreeRoot());
+  return document.InitiateAPMQDF(
+      former.ProductType, former.TranslationTable, former.CustomMediaFile, limit[0], limit[1],
+      limit[2], limit[3], margin[0], margin[1], margin[2], margin[3], former.MediaSourceList,
+      former.MediaSizeList, former.MarginInfoList, previous.GetMediaSourceTreeRoot());
 }
 
 // Why a derivation has failed: the first list that it could not fill tells, unless memory ran out.
@@ -42,12 +41,8 @@ UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
   CollectHPResources(resourceFolder.GetFullPath(), resources);
   if (resources.GetSize() == 0) return {nullptr, UpdateFault::NoResource};
   auto document = std::make_unique<APMQDF>();
+  if (TakeOver(*document, previous) == 0) return {nullptr, UpdateFault::NoMemory};
   DocumentMembers former(previous);
-  // A text that was empty for lack of memory would be taken over as an empty one.
-  former.LackedMemory = false;
-  if (TakeOver(*document, previous) == 0 || former.LackedMemory) {
-    return {nullptr, UpdateFault::NoMemory};
-  }
   if (document->LoadHPResourceInfo(resources, former.InkList, former.MediaList) == 0) {
     return {nullptr, FaultOf(*document)};
   }
