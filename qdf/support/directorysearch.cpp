@@ -21,9 +21,12 @@ struct CloseSearch {
 using Search = std::unique_ptr<DIR, CloseSearch>;
 
 Descriptor OpenAt(int parent, const char* path, int flags) {
-  Descriptor folder(openat(parent, path, flags));
-  if (!folder.IsOpen()) ThrowIfWithoutMeans();
-  return folder;
+  int number = 0;
+  do {
+    number = openat(parent, path, flags);
+  } while (number < 0 && errno == EINTR);
+  if (number < 0) ThrowIfWithoutMeans();
+  return Descriptor(number);
 }
 
 // A search of its own: the folder's descriptor stays as it is.
@@ -46,6 +49,7 @@ EntryKind KindOf(const Descriptor& folder, const dirent& entry) {
   if (entry.d_type != DT_UNKNOWN) return EntryKind::Other;
   struct stat status {};
   if (fstatat(folder.Number(), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    ThrowIfWithoutMeans();
     return EntryKind::Other;
   }
   if (S_ISDIR(status.st_mode)) return EntryKind::Folder;
@@ -79,6 +83,7 @@ bool SearchFolder(const Descriptor& folder, std::vector<DirectoryEntry>& entries
   }
   if (errno != 0) {
     ThrowIfWithoutMeans();
+    entries.clear();
     return false;
   }
   std::sort(entries.begin(), entries.end(), [](const DirectoryEntry& a, const DirectoryEntry& b) {
