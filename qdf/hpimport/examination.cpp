@@ -81,15 +81,20 @@ FolderVerdict ExamineHPFolder(const AString& folder, int level) {
   return lacksResource ? Fault(FolderFault::NoResource, folder) : FolderVerdict();
 }
 
-std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder) {
+std::vector<MediaFolder> FindMediaFolders(const AFilePath& folder) {
   std::vector<MediaFolder> media;
   std::vector<DirectoryEntry> entries;
   SearchFolder(folder, entries);
   for (const DirectoryEntry& entry : entries) {
     if (entry.kind != EntryKind::Folder || EqualNoCase(entry.name, kProfileFolder)) continue;
-    const AString path = PathIn(folder.GetFullPath(), entry);
-    media.push_back({entry.name.c_str(), path, ExamineHPFolder(path, kMediaLevel)});
+    media.push_back({entry.name.c_str(), PathIn(folder.GetFullPath(), entry), {}});
   }
+  return media;
+}
+
+std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder) {
+  std::vector<MediaFolder> media = FindMediaFolders(folder);
+  for (MediaFolder& each : media) each.verdict = ExamineHPFolder(each.path, kMediaLevel);
   return media;
 }
 

@@ -35,8 +35,9 @@ void RemoveFolderTree(const char* folder) {
 
 void PMCheckHPXMLVersion(AFilePath& folder) {
   OrOnNoMemory(0, [&] {
-    for (const MediaFolder& media : ExamineMediaFolders(folder)) {
-      if (!media.verdict.IsSound()) RemoveFolderTree(media.path);
+    // One by one, so that a folder that can't be examined for lack of means spares only itself.
+    for (const MediaFolder& media : FindMediaFolders(folder)) {
+      if (CheckHPFolder(media.path, 1) != 0) RemoveFolderTree(media.path);
     }
     return 1;
   });

@@ -35,8 +35,12 @@ struct MediaFolder {
   FolderVerdict verdict;
 };
 
-// The media folders that a sweep of the folder examines, in the order of a search, with what it
-// finds. Changes nothing. A lack of memory or descriptors throws bad_alloc.
+// The media folders that a sweep of the folder examines, in the order of a search, not yet
+// examined. None when the folder can't be searched. A lack of memory or descriptors throws
+// bad_alloc.
+std::vector<MediaFolder> FindMediaFolders(const AFilePath& folder);
+
+// The same with what a sweep finds in them. Changes nothing.
 std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder);
 
 // Level 1 means a media folder, and level 2 a quality folder. Throws as well.
