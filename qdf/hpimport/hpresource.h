@@ -10,7 +10,7 @@
 #include "qdf/support/export.h"
 
 // One resource file. Behind each field stands where it comes from: a folder, or an attribute or
-// element of the file. What the file lacks is empty or 0. Resolutions are in dots per inch.
+// element of the file. What the file lacks is empty or 0.
 struct HPResourceInfo {
   AString MediaName;            // the folder two levels above, in the case of the disk
   AStringArray DisplayNames;    // displayName, each one in file order
