@@ -14,11 +14,14 @@ class IDSet {
 
   // False when the set holds the id already.
   bool Add(std::uint32_t id) {
-    if (Holds(id)) return false;
+    // Most ids come in ascending order, and need no search.
+    if (id < next_ && Holds(id)) return false;
     index_.Add(id, 0);
+    if (id >= next_) next_ = std::uint64_t{id} + 1;
     return true;
   }
 
  private:
   HashIndex index_;
+  std::uint64_t next_ = 0;  // beyond all ids in the set
 };

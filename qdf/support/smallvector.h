@@ -64,7 +64,7 @@ class SmallVector {
   const Value* values() const { return many_ != nullptr ? many_.get() : few_; }
 
   void grow(std::size_t least) {
-    const std::size_t capacity = std::max(least, std::size_t{capacity_} * 2);
+    const std::size_t capacity = std::max(least, std::size_t{capacity_} * (many_ ? 2 : 4));
     if (capacity > INT32_MAX) throw std::bad_alloc();
     std::unique_ptr<Value[]> many(new Value[capacity]);
     std::copy_n(begin(), size_, many.get());
