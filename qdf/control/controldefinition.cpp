@@ -29,13 +29,12 @@ class ControlReader {
  public:
   ControlReader(AXMLTree& tree, const std::array<LevelIDs, kLevels>& ids, AStringArray& profileList,
                 AStringArray& oemInfoList, AStringArray& ditherNameList,
-                APtrArray& ditherResolutionList)
+                APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks)
       : tree_(tree),
         ids_(ids),
         profiles_(profileList, NameCase::Ignored),
         oemInfos_(oemInfoList, NameCase::Ignored),
-        ditherNames_(ditherNameList, NameCase::Exact),
-        ditherResolutionList_(ditherResolutionList) {}
+        ditherLists_(tree, ditherNameList, ditherResolutionList, blocks) {}
 
   void ReadLevel(std::size_t level, const AXMLTreeNode& parentElement, CQDFNode& parent) {
     const Level& form = kLevelForms[level];
@@ -62,8 +61,8 @@ class ControlReader {
     AXMLTreeNode ditherList;
     // Without a list the default dither is dropped.
     if (tree_.getChild("DitherList", element, ditherList) == 0) return;
-    ReadDitherList(ditherNode, ripResolutionNode, &tree_, ditherList, ditherNames_,
-                   ditherResolutionList_, tree_.attributeText(element, "DefaultDither"));
+    ditherLists_.Read(*ditherNode, *ripResolutionNode, ditherList,
+                      tree_.attributeText(element, "DefaultDither"));
   }
 
   static CQDFNode* AddLeaf(CQDFNode& node) {
@@ -94,8 +93,7 @@ class ControlReader {
   const std::array<LevelIDs, kLevels>& ids_;
   NameTable profiles_;
   NameTable oemInfos_;
-  NameTable ditherNames_;
-  APtrArray& ditherResolutionList_;
+  DitherListReader ditherLists_;
 };
 
 }  // namespace
@@ -104,7 +102,7 @@ int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaLi
                           APtrArray& printModeList, APtrArray& resolutionList,
                           APtrArray& colorModeList, CQDFNode& root, AStringArray& profileList,
                           AStringArray& oemInfoList, AStringArray& ditherNameList,
-                          APtrArray& ditherResolutionList) {
+                          APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks) {
   if (tree == nullptr) return 0;
   AXMLTreeNode section;
   if (tree->getItem("Control_Definition", section) == 0) return 1;
@@ -112,7 +110,8 @@ int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaLi
       IDsOf<InkTypeInfo>(inkList), IDsOf<MediaTypeInfo>(mediaList),
       IDsOf<PrintModeInfo>(printModeList), IDsOf<ResolutionInfo>(resolutionList),
       IDsOf<ColorModeInfo>(colorModeList)};
-  ControlReader reader(*tree, ids, profileList, oemInfoList, ditherNameList, ditherResolutionList);
+  ControlReader reader(*tree, ids, profileList, oemInfoList, ditherNameList, ditherResolutionList,
+                       blocks);
   root.Default = ReadDefault(*tree, section, "DefaultInk");
   reader.ReadLevel(0, section, root);
   return 1;

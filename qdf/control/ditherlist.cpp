@@ -1,6 +1,9 @@
 #include "qdf/control/ditherlist.h"
 
+#include <algorithm>
+#include <cstring>
 #include <memory>
+#include <utility>
 
 #include "qdf/control/levels.h"
 #include "qdf/definition/resolutionvalue.h"
@@ -11,19 +14,17 @@
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 
-namespace {
-
 // The records of one colour mode. Only those can be equal to a new one, since each record names its
 // owner. Of a new owner there are none yet.
-class OwnRecords {
+class DitherListReader::OwnRecords {
  public:
-  OwnRecords(CQDFNode* owner, APtrArray& records)
-      : owner_(owner), records_(records), ids_(owner->IDs) {}
+  OwnRecords(CQDFNode& owner, DitherListReader& reader)
+      : owner_(owner), reader_(reader), ids_(owner.IDs) {}
 
   // For an owner that may have been here before.
   void FindFormer() {
-    for (int i = 0; i < records_.GetSize(); ++i) {
-      if (At(i).OwnerNode == owner_) Remember(i);
+    for (int i = 0; i < reader_.records_.GetSize(); ++i) {
+      if (At(i).OwnerNode == &owner_) Remember(i);
     }
   }
 
@@ -35,13 +36,12 @@ class OwnRecords {
       ids_.Add(static_cast<std::uint32_t>(former));
       return;
     }
-    auto record = std::make_unique<DitherResolutionInfo>();
-    SetField(record->Name, name);
-    record->XResolution = x;
-    record->YResolution = y;
-    record->OwnerNode = owner_;
-    AddOwned(records_, std::move(record));
-    const int added = records_.GetSize() - 1;
+    DitherResolutionInfo& record = *reader_.AddRecord();
+    SetField(record.Name, name);
+    record.XResolution = x;
+    record.YResolution = y;
+    record.OwnerNode = &owner_;
+    const int added = reader_.records_.GetSize() - 1;
     index_.Add(hash, added);
     ids_.Add(static_cast<std::uint32_t>(added));
   }
@@ -63,7 +63,7 @@ class OwnRecords {
   }
 
   const DitherResolutionInfo& At(int index) const {
-    return *static_cast<const DitherResolutionInfo*>(records_.GetAt(index));
+    return *static_cast<const DitherResolutionInfo*>(reader_.records_.GetAt(index));
   }
 
   void Remember(int index) {
@@ -71,43 +71,95 @@ class OwnRecords {
     index_.Add(Hash(FieldText(record.Name), record.XResolution, record.YResolution), index);
   }
 
-  CQDFNode* owner_;
-  APtrArray& records_;
+  CQDFNode& owner_;
+  DitherListReader& reader_;
   UniqueIDs ids_;
   HashIndex index_;
 };
 
-void ReadDitherList(CQDFNode* ditherNode, AXMLTree* tree, const AXMLTreeNode& ditherList,
-                    NameTable& ditherNames, OwnRecords& records, std::string_view defaultDither) {
-  InternDefaultStringExact(ditherNode, ditherNames, defaultDither);
-  const bool supportsAll = ReadInt(tree->attributeText(ditherList, "SupportAll")) > 0;
-  UniqueIDs dithers(ditherNode->IDs);
-  ForEachChild(*tree, ditherList, "Dither", [&](const AXMLTreeNode& dither) {
-    const char* name = tree->attributeText(dither, "Name");
+DitherListReader::DitherListReader(const AXMLTree& tree, AStringArray& ditherNameList,
+                                   APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks)
+    : tree_(tree),
+      names_(ditherNameList, NameCase::Exact),
+      records_(ditherResolutionList),
+      blocks_(blocks) {}
+
+void DitherListReader::Read(CQDFNode& ditherNode, CQDFNode& ripResolutionNode,
+                            const AXMLTreeNode& ditherList, std::string_view defaultDither) {
+  InternDefaultStringExact(&ditherNode, names_, defaultDither);
+  ReadTexts(ditherList);
+  if (formerDitherNode_ != nullptr && list_ == formerList_) {
+    RepeatFormer(ditherNode, ripResolutionNode);
+    return;
+  }
+  OwnRecords records(ripResolutionNode, *this);
+  AddDithers(ditherNode, records);
+  std::swap(list_, formerList_);
+  formerDitherNode_ = &ditherNode;
+  formerRipResolutionNode_ = &ripResolutionNode;
+}
+
+void DitherListReader::ReadOnto(CQDFNode& ditherNode, CQDFNode& ripResolutionNode,
+                                const AXMLTreeNode& ditherList, std::string_view defaultDither) {
+  InternDefaultStringExact(&ditherNode, names_, defaultDither);
+  ReadTexts(ditherList);
+  OwnRecords records(ripResolutionNode, *this);
+  records.FindFormer();
+  AddDithers(ditherNode, records);
+}
+
+bool DitherListReader::List::operator==(const List& other) const {
+  const auto same = [](const Dither& a, const Dither& b) {
+    return std::strcmp(a.name, b.name) == 0 && std::strcmp(a.resolution, b.resolution) == 0;
+  };
+  return supportsAll == other.supportsAll &&
+         std::equal(dithers.begin(), dithers.end(), other.dithers.begin(), other.dithers.end(),
+                    same);
+}
+
+void DitherListReader::ReadTexts(const AXMLTreeNode& ditherList) {
+  list_.supportsAll = ReadInt(tree_.attributeText(ditherList, "SupportAll")) > 0;
+  list_.dithers.clear();
+  ForEachChild(tree_, ditherList, "Dither", [&](const AXMLTreeNode& dither) {
+    const char* name = tree_.attributeText(dither, "Name");
     if (*name == '\0') return;
-    if (!supportsAll) dithers.Add(static_cast<std::uint32_t>(ditherNames.Intern(name)));
-    double x = 0.0;
-    double y = 0.0;
-    ReadResolutionValue(tree->attributeText(dither, "RipResolution"), x, y);
-    if (x <= 0.0 || y <= 0.0) return;
-    records.Add(name, x, y);
+    list_.dithers.push_back({name, tree_.attributeText(dither, "RipResolution")});
   });
 }
 
-}  // namespace
+void DitherListReader::AddDithers(CQDFNode& ditherNode, OwnRecords& records) {
+  UniqueIDs ids(ditherNode.IDs);
+  for (const Dither& dither : list_.dithers) {
+    if (!list_.supportsAll) ids.Add(static_cast<std::uint32_t>(names_.Intern(dither.name)));
+    double x = 0.0;
+    double y = 0.0;
+    ReadResolutionValue(dither.resolution, x, y);
+    if (x > 0.0 && y > 0.0) records.Add(dither.name, x, y);
+  }
+}
 
-void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
-                    AXMLTreeNode& ditherList, NameTable& ditherNames,
-                    APtrArray& ditherResolutionList, std::string_view defaultDither) {
-  OwnRecords records(ripResolutionNode, ditherResolutionList);
-  ReadDitherList(ditherNode, tree, ditherList, ditherNames, records, defaultDither);
+// What the list before gave, with records of this list's own.
+void DitherListReader::RepeatFormer(CQDFNode& ditherNode, CQDFNode& ripResolutionNode) {
+  ditherNode.IDs.Copy(formerDitherNode_->IDs);
+  for (const std::uint32_t id : formerRipResolutionNode_->IDs) {
+    const void* former = records_.GetAt(static_cast<int>(id));
+    DitherResolutionInfo& record = *AddRecord();
+    record = *static_cast<const DitherResolutionInfo*>(former);
+    record.OwnerNode = &ripResolutionNode;
+    ripResolutionNode.IDs.Add(static_cast<std::uint32_t>(records_.GetSize() - 1));
+  }
+}
+
+DitherResolutionInfo* DitherListReader::AddRecord() {
+  if (blocks_ == nullptr) return AddOwned(records_, std::make_unique<DitherResolutionInfo>());
+  DitherResolutionInfo* record = blocks_->Make();
+  records_.Add(record);
+  return record;
 }
 
 void ReadDitherList(CQDFNode* ditherNode, CQDFNode* ripResolutionNode, AXMLTree* tree,
                     AXMLTreeNode& ditherList, AStringArray& ditherNameList,
                     APtrArray& ditherResolutionList, AString defaultDither) {
-  NameTable names(ditherNameList, NameCase::Exact);
-  OwnRecords records(ripResolutionNode, ditherResolutionList);
-  records.FindFormer();
-  ReadDitherList(ditherNode, tree, ditherList, names, records, View(defaultDither));
+  DitherListReader(*tree, ditherNameList, ditherResolutionList, nullptr)
+      .ReadOnto(*ditherNode, *ripResolutionNode, ditherList, View(defaultDither));
 }

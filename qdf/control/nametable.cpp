@@ -1,6 +1,6 @@
 #include "qdf/control/nametable.h"
 
-#include <string>
+#include <algorithm>
 
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
@@ -25,7 +25,9 @@ int NameTable::Find(std::string_view name) const {
 int NameTable::Intern(std::string_view name) {
   const int found = Find(name);
   if (found >= 0) return found;
-  const int added = names_.Add(std::string(name).c_str());
+  const int added = names_.Add("");
+  std::copy(name.begin(), name.end(),
+            names_.ElementAt(added).GetBuffer(static_cast<int>(name.size())));
   index_.Add(Hash(name), added);
   return added;
 }

@@ -38,7 +38,6 @@ APMQDF::~APMQDF() {
   DeleteItems<PrintModeInfo>(PrintModeList);
   DeleteItems<ResolutionInfo>(ResolutionList);
   DeleteItems<MediaSourceInfo>(MediaSourceList);
-  DeleteItems<DitherResolutionInfo>(DitherResolutionList);
   DeleteItems<MarginInfo>(MarginInfoList);
   DeleteItems<MediaSizeInfo>(MediaSizeList);
 }
@@ -65,9 +64,10 @@ int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
     ReadMediaSizeList(tree, MediaSizeList);
     ReadMarginInfoList(tree, MarginInfoList);
     ReadMediaSourceList(tree, MediaSourceList);
+    if (Blocks == nullptr) Blocks = std::make_unique<DitherResolutionBlocks>();
     ReadControlDefinition(tree, InkList, MediaList, PrintModeList, ResolutionList, ColorModeList,
                           ControlTreeRoot, ICCProfileList, OEMInfoList, DitherNameList,
-                          DitherResolutionList);
+                          DitherResolutionList, Blocks.get());
     if (MediaSourceList.GetSize() > 0) {
       ReadMediaSourceControl(tree, MediaSourceList, MediaSizeList, MarginInfoList,
                              MediaSourceTreeRoot);

@@ -7,6 +7,7 @@
 // copies, which stay valid when the document is gone. Failure is a result of 0 or a null pointer;
 // nothing is thrown, also when memory runs out, and nothing is reported in words.
 
+#include <memory>
 #include <vector>
 
 #include "qdf/core/qdfnode.h"
@@ -18,6 +19,7 @@
 
 class AXMLTree;
 class AXMLTreeNode;
+class DitherResolutionBlocks;
 
 // Hosts call through the table of virtual operations: the order of the virtual members is an
 // interface and never changes.
@@ -209,6 +211,9 @@ class APMQDF_EXPORT APMQDF {
   CQDFNode MediaSourceTreeRoot;
   double MediaSizeLimits[4] = {};
   double MinimumMargins[4] = {};
+
+  // Owns the records of DitherResolutionList.
+  std::unique_ptr<DitherResolutionBlocks> Blocks;
 
   // The answer of the work, or `failure` and LackedMemory set when memory ran out: some answers
   // look the same in both cases, and the writer must not take the one for the other.
