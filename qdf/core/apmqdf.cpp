@@ -5,6 +5,7 @@
 
 #include "qdf/control/ditherlist.h"
 #include "qdf/control/readers.h"
+#include "qdf/core/childindexes.h"
 #include "qdf/core/guarded.h"
 #include "qdf/definition/readers.h"
 #include "qdf/support/axmltree.h"
@@ -64,6 +65,7 @@ int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
     ReadMediaSizeList(tree, MediaSizeList);
     ReadMarginInfoList(tree, MarginInfoList);
     ReadMediaSourceList(tree, MediaSourceList);
+    ControlIndexes.reset();
     if (Blocks == nullptr) Blocks = std::make_unique<DitherResolutionBlocks>();
     ReadControlDefinition(tree, InkList, MediaList, PrintModeList, ResolutionList, ColorModeList,
                           ControlTreeRoot, ICCProfileList, OEMInfoList, DitherNameList,

@@ -7,6 +7,7 @@
 // copies, which stay valid when the document is gone. Failure is a result of 0 or a null pointer;
 // nothing is thrown, also when memory runs out, and nothing is reported in words.
 
+#include <initializer_list>
 #include <memory>
 #include <vector>
 
@@ -19,6 +20,7 @@
 
 class AXMLTree;
 class AXMLTreeNode;
+class ChildIndexes;
 class DitherResolutionBlocks;
 
 // Hosts call through the table of virtual operations: the order of the virtual members is an
@@ -170,6 +172,8 @@ class APMQDF_EXPORT APMQDF {
 
   AString MakeStringUponIDArray(ADWordArray& ids);
 
+  const CQDFNode* FindControlPath(std::initializer_list<int> ids);
+
   void PMWriteDefinitionPart(AXMLTree& tree, const AXMLTreeNode& definition);
   void PMWriteMediaSourceDef(AXMLTree& tree, const AXMLTreeNode& definition);
   void PMWriteMarginInfoDef(AXMLTree& tree, const AXMLTreeNode& definition);
@@ -214,6 +218,8 @@ class APMQDF_EXPORT APMQDF {
 
   // Owns the records of DitherResolutionList.
   std::unique_ptr<DitherResolutionBlocks> Blocks;
+  // Of the control tree, from the first search in it until it changes.
+  std::unique_ptr<ChildIndexes> ControlIndexes;
 
   // The answer of the work, or `failure` and LackedMemory set when memory ran out: some answers
   // look the same in both cases, and the writer must not take the one for the other.

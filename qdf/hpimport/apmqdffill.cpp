@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "qdf/core/childindexes.h"
 #include "qdf/core/guarded.h"
 #include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/derivecontroltree.h"
@@ -29,6 +30,7 @@ int APMQDF::LoadHPResourceInfo(APtrArray& resources, APtrArray& oldInks, APtrArr
   if (oldInks.GetSize() == 0) return 0;
   return Guarded(0, [&] {
     AppendCopies<InkTypeInfo>(InkList, oldInks);
+    ControlIndexes.reset();
     const bool complete = DeriveMediaList(resources, MediaList, oldMedia) != 0 &&
                           DerivePrintModeList(resources, PrintModeList) != 0 &&
                           DeriveResolutionList(resources, ResolutionList) != 0 &&

@@ -6,17 +6,21 @@
 
 namespace {
 
-// One step of the cascade: what may follow the given ids.
+// One step of the cascade: what may follow the node that the ids led to.
 template <class Record>
-int AppendNextLevel(const CQDFNode& root, std::initializer_list<int> ids, const APtrArray& list,
-                    std::vector<Record>& records, int& defaultPosition) {
+int AppendNextLevel(const CQDFNode* node, const APtrArray& list, std::vector<Record>& records,
+                    int& defaultPosition) {
   defaultPosition = 0;
-  const CQDFNode* node = FindPath(root, ids);
   if (node == nullptr) return 0;
   return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
 }
 
 }  // namespace
+
+const CQDFNode* APMQDF::FindControlPath(std::initializer_list<int> ids) {
+  if (ControlIndexes == nullptr) ControlIndexes = std::make_unique<ChildIndexes>();
+  return FindPath(ControlTreeRoot, ids, ControlIndexes.get());
+}
 
 int APMQDF::GetInkTypeList(std::vector<InkTypeInfo>& inks, int& defaultPosition) {
   defaultPosition = 0;
@@ -33,14 +37,14 @@ int APMQDF::GetInkTypeList(std::vector<InkTypeInfo>& inks, int& defaultPosition)
 int APMQDF::GetMediaTypeList(const int& ink, std::vector<MediaTypeInfo>& media,
                              int& defaultPosition) {
   return Guarded(0, [&] {
-    return AppendNextLevel(ControlTreeRoot, {ink}, MediaList, media, defaultPosition);
+    return AppendNextLevel(FindControlPath({ink}), MediaList, media, defaultPosition);
   });
 }
 
 int APMQDF::GetPrintModeList(const int& ink, const int& media,
                              std::vector<PrintModeInfo>& printModes, int& defaultPosition) {
   return Guarded(0, [&] {
-    return AppendNextLevel(ControlTreeRoot, {ink, media}, PrintModeList, printModes,
+    return AppendNextLevel(FindControlPath({ink, media}), PrintModeList, printModes,
                            defaultPosition);
   });
 }
@@ -48,7 +52,7 @@ int APMQDF::GetPrintModeList(const int& ink, const int& media,
 int APMQDF::GetResolutionList(const int& ink, const int& media, const int& printMode,
                               std::vector<ResolutionInfo>& resolutions, int& defaultPosition) {
   return Guarded(0, [&] {
-    return AppendNextLevel(ControlTreeRoot, {ink, media, printMode}, ResolutionList, resolutions,
+    return AppendNextLevel(FindControlPath({ink, media, printMode}), ResolutionList, resolutions,
                            defaultPosition);
   });
 }
@@ -57,7 +61,7 @@ int APMQDF::GetColorModeList(const int& ink, const int& media, const int& printM
                              const int& resolution, std::vector<ColorModeInfo>& colorModes,
                              int& defaultPosition) {
   return Guarded(0, [&] {
-    return AppendNextLevel(ControlTreeRoot, {ink, media, printMode, resolution}, ColorModeList,
+    return AppendNextLevel(FindControlPath({ink, media, printMode, resolution}), ColorModeList,
                            colorModes, defaultPosition);
   });
 }

@@ -60,10 +60,12 @@ AString DefaultName(const CQDFNode& leaf, const AStringArray& names) {
 
 int APMQDF::FindColorModeNode(const int& ink, const int& media, const int& printMode,
                               const int& resolution, const int& colorMode, CQDFNode*& node) {
-  const CQDFNode* found = FindPath(ControlTreeRoot, {ink, media, printMode, resolution, colorMode});
-  if (found == nullptr) return 0;
-  node = const_cast<CQDFNode*>(found);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
-  return 1;
+  return Guarded(0, [&] {
+    const CQDFNode* found = FindControlPath({ink, media, printMode, resolution, colorMode});
+    if (found == nullptr) return 0;
+    node = const_cast<CQDFNode*>(found);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    return 1;
+  });
 }
 
 int APMQDF::GetOEMInfo(const int& ink, const int& media, const int& printMode,

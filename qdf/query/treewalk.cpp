@@ -9,12 +9,14 @@ bool Holds(CQDFNode* node, int id) {
   return node != nullptr && IsIDInArray(static_cast<std::uint32_t>(id), *node) != 0;
 }
 
-const CQDFNode* FindFrom(const CQDFNode& node, const int* id, const int* end) {
+const CQDFNode* FindFrom(const CQDFNode& node, const int* id, const int* end,
+                         ChildIndexes* indexes) {
   if (id == end) return &node;
-  for (int i = 0; i < node.Children.GetSize(); ++i) {
+  int i = indexes != nullptr ? indexes->FirstHolding(node, static_cast<std::uint32_t>(*id)) : 0;
+  for (; i < node.Children.GetSize(); ++i) {
     CQDFNode* child = ChildAt(node, i);
     if (!Holds(child, *id)) continue;
-    const CQDFNode* found = FindFrom(*child, id + 1, end);
+    const CQDFNode* found = FindFrom(*child, id + 1, end, indexes);
     if (found != nullptr) return found;
   }
   return nullptr;
@@ -30,8 +32,9 @@ CQDFNode* FindChildWithID(const CQDFNode& parent, int id) {
   return nullptr;
 }
 
-const CQDFNode* FindPath(const CQDFNode& root, std::initializer_list<int> ids) {
-  return FindFrom(root, ids.begin(), ids.end());
+const CQDFNode* FindPath(const CQDFNode& root, std::initializer_list<int> ids,
+                         ChildIndexes* indexes) {
+  return FindFrom(root, ids.begin(), ids.end(), indexes);
 }
 
 ADWordArray MergedChildIDs(const CQDFNode& node) {

@@ -14,6 +14,7 @@
 class HashIndex {
  public:
   HashIndex() = default;
+  HashIndex(HashIndex&&) = default;
   HashIndex(const HashIndex&) = delete;
   HashIndex& operator=(const HashIndex&) = delete;
 
