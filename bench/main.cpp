@@ -3,6 +3,7 @@
 //     apmqdf-bench [benchmark options] [DOCUMENT]
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include "bench/measure.h"
 
@@ -16,6 +17,27 @@ std::string& Document() {
 }  // namespace
 
 const std::string& BenchDocument() { return Document(); }
+
+std::unique_ptr<APMQDF> LoadDocument(const char* path) {
+  AFilePath source(path);
+  APMQDF* document = nullptr;
+  PMGetQDFInterface(source, &document);
+  return std::unique_ptr<APMQDF>(document);
+}
+
+ScratchFile::ScratchFile() {
+  const int file = mkstemp(path_.data());
+  if (file >= 0) close(file);
+}
+
+ScratchFile::~ScratchFile() { unlink(path_.c_str()); }
+
+void Compare(benchmark::State& state, double figure, double against, double atMost) {
+  state.counters["figure"] = figure;
+  state.counters["against"] = against;
+  state.counters["ratio"] = figure / against;
+  state.counters["at_most"] = atMost;
+}
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);

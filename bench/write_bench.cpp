@@ -7,36 +7,14 @@
 
 #include <memory>
 #include <pugixml.hpp>
-#include <string>
 #include <vector>
 
 #include "bench/measure.h"
-#include "qdf/core/apmqdf.h"
 
 namespace {
 
-// The name of a file that goes with the object.
-class ScratchFile {
- public:
-  ScratchFile() {
-    const int file = mkstemp(path_.data());
-    if (file >= 0) close(file);
-  }
-  ~ScratchFile() { unlink(path_.c_str()); }
-  ScratchFile(const ScratchFile&) = delete;
-  ScratchFile& operator=(const ScratchFile&) = delete;
-
-  const char* Path() const { return path_.c_str(); }
-
- private:
-  std::string path_ = "/tmp/apmqdf-bench-XXXXXX";
-};
-
 void WriteAgainstPrinter(benchmark::State& state) {
-  AFilePath source(BenchDocument().c_str());
-  APMQDF* object = nullptr;
-  PMGetQDFInterface(source, &object);
-  const std::unique_ptr<APMQDF> document(object);
+  const std::unique_ptr<APMQDF> document = LoadDocument(BenchDocument().c_str());
   const ScratchFile file;
   const ScratchFile printed;
   AFilePath path(file.Path());
@@ -54,9 +32,7 @@ void WriteAgainstPrinter(benchmark::State& state) {
     writes.push_back(Seconds([&] { document->PMWriteQDF(path); }));
     prints.push_back(Seconds([&] { tree.save_file(printed.Path(), "  "); }));
   }
-  state.counters["write"] = Median(writes);
-  state.counters["printer"] = Median(prints);
-  state.counters["ratio"] = Median(writes) / Median(prints);
+  Compare(state, Median(writes), Median(prints), 2.5);
 }
 
 BENCHMARK(WriteAgainstPrinter)->Unit(benchmark::kMillisecond)->MinTime(2);
