@@ -3,7 +3,8 @@
 
 find_program(CLANG_TIDY clang-tidy)
 set(tidy_list ${PROJECT_SOURCE_DIR}/.clang-tidy)
-file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/qdf/*/*.h ${PROJECT_SOURCE_DIR}/tool/*.h)
+file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/qdf/*/*.h
+  ${PROJECT_SOURCE_DIR}/tool/*.h ${PROJECT_SOURCE_DIR}/tool/*/*.h)
 
 set(stamps)
 foreach(target apmqdf-objects qdf)

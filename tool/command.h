@@ -68,3 +68,4 @@ struct Command {
 extern const Command kShowCommand;
 extern const Command kNarrowCommand;
 extern const Command kTreeCommand;
+extern const Command kWriteCommand;

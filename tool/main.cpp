@@ -17,6 +17,7 @@ const Command* const kCommands[] = {
     &kShowCommand,
     &kNarrowCommand,
     &kTreeCommand,
+    &kWriteCommand,
 };
 
 // As with git, an empty folder changes nothing.

@@ -33,6 +33,9 @@ struct Object {
 
   void Add(Field field);
 
+  // Null when no field has the key.
+  const Value* Find(std::string_view key) const;
+
   std::vector<Field> fields;
   // Within a line an object is the values of its labelled fields with this between them; a flag
   // shows as its label in brackets when it is set.
@@ -53,6 +56,9 @@ struct Value {
 
   std::variant<std::monostate, bool, std::int64_t, double, std::string, List, Object> data;
 };
+
+// By what they hold, keys and labels included. A number that is none equals itself.
+bool operator==(const Value& a, const Value& b);
 
 inline Value OrNull(const std::optional<std::string>& text) {
   return text ? Value(*text) : Value();

@@ -1,0 +1,108 @@
+#include "tool/files.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "qdf/support/filebytes.h"
+#include "qdf/support/savebytes.h"
+#include "tool/failure.h"
+
+namespace {
+
+constexpr const char* kNoRoom = "there is no room for it";
+constexpr const char* kNotRegular = "it is no regular file";
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+// Why a file that isn't there couldn't be made.
+const char* WhyNotMade(const std::string& path) {
+  struct stat status {};
+  const std::string folder = FolderOf(path);
+  if (lstat(path.c_str(), &status) == 0) return "the link leads nowhere";
+  if (stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+    return "its folder isn't there";
+  if (access(folder.c_str(), W_OK) != 0) return "no permission to write into its folder";
+  return kNoRoom;
+}
+
+class MemoryFile {
+ public:
+  MemoryFile() : number_(memfd_create("document", MFD_CLOEXEC)) {}
+  ~MemoryFile() { close(number_); }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+
+  std::string Path() const { return "/proc/self/fd/" + std::to_string(number_); }
+
+ private:
+  int number_;
+};
+
+}  // namespace
+
+bool Exists(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0;
+}
+
+std::string ReadWhole(const std::string& path) {
+  FileBytes bytes;
+  const char* fault = ReadFileBytes(path.c_str(), bytes);
+  if (fault != nullptr) throw Failure(kNoAnswer, path + ": " + fault);
+  return std::string(bytes.Text());
+}
+
+void SaveWhole(const std::string& path, std::string_view bytes) {
+  if (SaveFileBytes(path.c_str(), bytes) != 0) return;
+  throw Failure(kNoAnswer, path + ": it can't be saved: " + WhyNotSaved(path));
+}
+
+std::string WhyNotSaved(const std::string& path) {
+  const int file = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  const int error = errno;
+  if (file >= 0) {
+    struct stat status {};
+    const bool isRegular = fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+    close(file);
+    return isRegular ? kNoRoom : kNotRegular;
+  }
+  switch (error) {
+    case ENOENT:
+      return WhyNotMade(path);
+    case EACCES:
+    case EPERM:
+      return "no permission to write it";
+    case EISDIR:
+      return "it is a folder";
+    case ENOTDIR:
+      return "its folder isn't there";
+    case ENXIO:
+      return kNotRegular;
+    default:
+      return std::strerror(error);
+  }
+}
+
+WrittenForm MakeWrittenForm(APMQDF& document, const std::string& path) {
+  const MemoryFile file;
+  AFilePath memory(file.Path().c_str());
+  document.PMWriteQDF(memory);
+  FileBytes bytes;
+  const char* fault = ReadFileBytes(memory, bytes);
+  APMQDF* loaded = nullptr;
+  PMGetQDFInterface(memory, &loaded);
+  WrittenForm written{{}, std::unique_ptr<APMQDF>(loaded)};
+  if (fault != nullptr || loaded == nullptr) {
+    throw Failure(kNoAnswer, path + ": it can't be saved: " + kNoRoom);
+  }
+  written.bytes = bytes.Text();
+  return written;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+// A document goes into a file, and the person hears what that lost.
+
+#include "tool/load.h"
+#include "tool/report.h"
+
+// Writes the document to the path and adds that, and what the written form no longer holds, to the
+// report. Throws a Failure, with every file as it was, when that can't be done.
+void WriteDocument(const Document& document, const std::string& path, Object& report);
