@@ -68,4 +68,5 @@ struct Command {
 extern const Command kShowCommand;
 extern const Command kNarrowCommand;
 extern const Command kTreeCommand;
+extern const Command kLocaliseCommand;
 extern const Command kWriteCommand;

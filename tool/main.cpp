@@ -17,6 +17,7 @@ const Command* const kCommands[] = {
     &kShowCommand,
     &kNarrowCommand,
     &kTreeCommand,
+    &kLocaliseCommand,
     &kWriteCommand,
 };
 

@@ -8,16 +8,16 @@
 
 namespace {
 
-class Write : public testing::Test {
+class QdfWrite : public testing::Test {
  protected:
-  Write() { folder_.Write("small.qdf", kSmallDocument); }
+  QdfWrite() { folder_.Write("small.qdf", kSmallDocument); }
 
   Outcome Run(const Words& words) const { return RunTool(words, {folder_.Path()}); }
 
   TempFolder folder_;
 };
 
-TEST_F(Write, TellsEachKindOfLossOnce) {
+TEST_F(QdfWrite, TellsEachKindOfLossOnce) {
   EXPECT_EQ(Run({"write", "small.qdf", "new.qdf"}), (Outcome{0, R"(Document:  small.qdf
 Written:   new.qdf
 
@@ -38,7 +38,7 @@ No longer held (10)
             "Document:  ./new.qdf\nWritten:   again.qdf\n\nNo longer held: none\n");
 }
 
-TEST_F(Write, TellsProgramsWholeLists) {
+TEST_F(QdfWrite, TellsProgramsWholeLists) {
   const nlohmann::json report = RunJson({"write", "small.qdf", "new.qdf"}, {folder_.Path()});
   EXPECT_EQ(report["document"], "small.qdf");
   EXPECT_EQ(report["written"], "new.qdf");
@@ -47,7 +47,7 @@ TEST_F(Write, TellsProgramsWholeLists) {
                 "first": "all of them", "before": ["Fine", "Coarse"], "after": ["FINE", "COARSE"]})"));
 }
 
-TEST_F(Write, MayReplaceTheDocumentItself) {
+TEST_F(QdfWrite, MayReplaceTheDocumentItself) {
   EXPECT_EQ(Run({"write", "./small.qdf", "small.qdf"}).code, 0);
   const std::string written = ReadFile(folder_.Path("small.qdf"));
   EXPECT_NE(written, kSmallDocument);
@@ -56,7 +56,7 @@ TEST_F(Write, MayReplaceTheDocumentItself) {
   EXPECT_EQ(ReadFile(folder_.Path("small.qdf")), ReadFile(folder_.Path("third.qdf")));
 }
 
-TEST_F(Write, SaysWhyNothingWasWritten) {
+TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
   ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
   ASSERT_EQ(symlink("nowhere", folder_.Path("link").c_str()), 0);
   const struct {
@@ -74,7 +74,7 @@ TEST_F(Write, SaysWhyNothingWasWritten) {
   }
 }
 
-TEST_F(Write, LeavesTheFormerFileWholeWithoutRoomOrRights) {
+TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
   const std::string old = folder_.Write("old.qdf", "former content");
   const std::string folder = folder_.Path();
   const auto refused = [&](const Setting& setting, const char* reason) {
