@@ -4,16 +4,16 @@
 #include <string>
 #include <string_view>
 
+#include "qdf/localise/custommedialine.h"
 #include "qdf/localise/textlines.h"
 #include "qdf/support/nothrow.h"
 #include "qdf/support/outputdrivers.h"
 #include "qdf/support/savebytes.h"
+#include "qdf/support/text.h"
 
 namespace {
 
-constexpr std::string_view kProfile = "key_Iccprofile";
-constexpr std::string_view kNameForMedia = "key_DisplayName_ForMedia";
-constexpr std::string_view kProfileForMedia = "key_Iccprofile_ForMedia";
+using Kind = CustomMediaLine::Kind;
 
 AString ToAString(std::string_view text) { return AString(std::string(text).c_str()); }
 
@@ -43,14 +43,13 @@ int SetInMap(AMapStringToPtr& map, const AString& media, const AString& text) {
   });
 }
 
-void AppendLines(std::string& file, std::string_view key, const AMapStringToPtr& map) {
+void AppendLines(std::string& file, Kind kind, const AMapStringToPtr& map) {
   AString media;
   void* value = nullptr;
   void* position = map.GetStartPosition();
   while (position != nullptr) {
     map.GetNextAssoc(position, media, value);
-    file.append(key).append("=").append(media).append("/");
-    file.append(*static_cast<const AString*>(value)).append("\n");
+    file += MakeCustomMediaLine({kind, View(media), View(*static_cast<const AString*>(value))});
   }
 }
 
@@ -109,19 +108,21 @@ int CCustomMediaInfoInter::HasIccprofile(const AString& profile) {
 
 int CCustomMediaInfoInter::LoadCustomMediaFile() {
   if (CustomMediaPath.exists() == 0 || CustomMediaPath.isDirectory() != 0) return 1;
-  const auto take = [this](std::size_t, const char* line) {
-    std::string_view key;
-    std::string_view value;
-    if (!SplitAtFirst('=', line, key, value)) return;
-    if (key == kProfile) IccprofileList.Add(ToAString(value));
-    if (key != kNameForMedia && key != kProfileForMedia) return;
-    std::string_view media;
-    std::string_view text;
-    if (!SplitAtFirst('/', value, media, text)) return;
-    if (key == kNameForMedia) {
-      SetDisplayNameForMedia(ToAString(media), ToAString(text));
-    } else {
-      SetIccprofileForMedia(ToAString(media), ToAString(text));
+  const auto take = [this](std::size_t, const char* text) {
+    CustomMediaLine line;
+    if (ReadCustomMediaLine(text, line) != nullptr) return;
+    const AString media = ToAString(line.media);
+    const AString value = ToAString(line.value);
+    switch (line.kind) {
+      case Kind::Profile:
+        IccprofileList.Add(value);
+        break;
+      case Kind::NameForMedia:
+        SetDisplayNameForMedia(media, value);
+        break;
+      case Kind::ProfileForMedia:
+        SetIccprofileForMedia(media, value);
+        break;
     }
   };
   return OrOnNoMemory(0, [&] { return ForEachLine(CustomMediaPath, take); });
@@ -134,10 +135,10 @@ int CCustomMediaInfoInter::SaveCustomMediaFile() {
   return OrOnNoMemory(0, [&] {
     std::string file;
     for (int i = 0; i < IccprofileList.GetSize(); ++i) {
-      file.append(kProfile).append("=").append(IccprofileList.ElementAt(i)).append("\n");
+      file += MakeCustomMediaLine({Kind::Profile, {}, View(IccprofileList.ElementAt(i))});
     }
-    AppendLines(file, kNameForMedia, DisplayNameForMedia);
-    AppendLines(file, kProfileForMedia, IccprofileForMedia);
+    AppendLines(file, Kind::NameForMedia, DisplayNameForMedia);
+    AppendLines(file, Kind::ProfileForMedia, IccprofileForMedia);
     return SaveFileBytes(CustomMediaPath, file) != 0 ? 1 : 0;
   });
 }
