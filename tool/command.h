@@ -69,4 +69,5 @@ extern const Command kShowCommand;
 extern const Command kNarrowCommand;
 extern const Command kTreeCommand;
 extern const Command kLocaliseCommand;
+extern const Command kMediaCommand;
 extern const Command kWriteCommand;

@@ -14,11 +14,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kShowCommand,
-    &kNarrowCommand,
-    &kTreeCommand,
-    &kLocaliseCommand,
-    &kWriteCommand,
+    &kShowCommand,     &kNarrowCommand, &kTreeCommand,
+    &kLocaliseCommand, &kMediaCommand,  &kWriteCommand,
 };
 
 // As with git, an empty folder changes nothing.
@@ -51,8 +48,9 @@ int RunAndTell(int count, char** words) {
 }  // namespace
 
 int main(int count, char** words) {
-  // A write to a closed pipe is then an error like any other.
+  // A write to a closed pipe or beyond a limit of size is then an error like any other.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return RunAndTell(count, words);
   } catch (const std::bad_alloc&) {

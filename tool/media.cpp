@@ -1,0 +1,153 @@
+// qdf media: the custom media file that a document names.
+
+#include <algorithm>
+
+#include "tool/command.h"
+#include "tool/customfile.h"
+#include "tool/driverfile.h"
+#include "tool/lists.h"
+#include "tool/printable.h"
+#include "tool/reportline.h"
+
+namespace {
+
+using Kind = CustomMediaLine::Kind;
+
+// A change must read back as what was meant.
+void RefuseUnreadable(const std::string& option, const CustomChange& change) {
+  constexpr std::size_t kLongestLine = 1023;
+  std::string text = MakeCustomMediaLine({change.kind, change.media, change.value});
+  text.pop_back();
+  CustomMediaLine line;
+  const bool same = text.size() <= kLongestLine && text.find('\n') == std::string::npos &&
+                    ReadCustomMediaLine(text, line) == nullptr && line.media == change.media &&
+                    line.value == change.value;
+  if (same) return;
+  throw Failure(kWrongUsage, option + ": a line of the file can't hold " +
+                                 Quoted(change.media.empty() ? change.value
+                                                             : change.media + '=' + change.value));
+}
+
+CustomChange ParsePair(const std::string& option, Kind kind, const std::string& given) {
+  const std::size_t at = given.find('=');
+  if (at == std::string::npos || at == 0) {
+    throw Failure(kWrongUsage,
+                  option + " takes a medium, \"=\" and what to set for it, not " + Quoted(given));
+  }
+  return {kind, given.substr(0, at), given.substr(at + 1)};
+}
+
+std::vector<CustomChange> ParseChanges(const Arguments& arguments) {
+  std::vector<CustomChange> changes;
+  const auto add = [&](const std::string& option, CustomChange change) {
+    RefuseUnreadable(option, change);
+    changes.push_back(std::move(change));
+  };
+  for (const std::string& media : arguments.All("--remove")) {
+    add("--remove", {Kind::NameForMedia, media, ""});
+    add("--remove", {Kind::ProfileForMedia, media, ""});
+  }
+  for (const std::string& given : arguments.All("--set-name")) {
+    add("--set-name", ParsePair("--set-name", Kind::NameForMedia, given));
+  }
+  for (const std::string& given : arguments.All("--set-profile")) {
+    add("--set-profile", ParsePair("--set-profile", Kind::ProfileForMedia, given));
+  }
+  for (const std::string& profile : arguments.All("--add-profile")) {
+    if (profile.empty()) throw Failure(kWrongUsage, "--add-profile takes the name of a profile");
+    add("--add-profile", {Kind::Profile, "", profile});
+  }
+  return changes;
+}
+
+// Somebody who removes what isn't there has mistaken the medium.
+void RefuseUnknown(const std::string& path, const CustomFile& file,
+                   const std::vector<CustomChange>& changes) {
+  for (const CustomChange& change : changes) {
+    const bool isKnown = std::any_of(file.media.begin(), file.media.end(), [&](const auto& medium) {
+      return medium.name == change.media;
+    });
+    if (isKnown || !change.value.empty()) continue;
+    throw Failure(kWrongUsage, path + ": nothing is set for medium " + Quoted(change.media));
+  }
+}
+
+// The ids of the document's media that bear the name, internal or displayed.
+List IDsOf(const List& media, const std::string& name) {
+  List ids;
+  for (const Value& entry : media) {
+    const Object& row = *AsObject(entry);
+    const auto bears = [&](const char* key) { return *row.Find(key) == Value(name); };
+    if (bears("internalName") || bears("displayName")) ids.push_back(*row.Find("id"));
+  }
+  return ids;
+}
+
+List MediaRows(const CustomFile& file, APMQDF& document) {
+  const List known = kDocumentLists[kMedia].rows(document);
+  List rows;
+  for (const CustomMedium& medium : file.media) {
+    rows.emplace_back(Object{{"media", "Medium", medium.name},
+                             {"displayName", "Display name", OrNull(medium.displayName)},
+                             {"profile", "Profile", OrNull(medium.profile)},
+                             {"ids", "IDs in the document", IDsOf(known, medium.name)}});
+  }
+  return rows;
+}
+
+void AddFile(const CustomFile& file, const std::vector<IgnoredLine>& lines, bool saved,
+             APMQDF& document, Object& report) {
+  List profiles;
+  for (const std::string& name : file.profiles) {
+    profiles.emplace_back(Object{{"name", "Name", name}});
+  }
+  List ignored;
+  for (const IgnoredLine& line : lines) {
+    ignored.emplace_back(Object{{"line", "Line", line.number},
+                                {"reason", "Why", line.reason},
+                                {"text", "Text", line.text}});
+  }
+  const char* state = saved ? "saved" : file.exists ? "read" : "no such file";
+  report.Add({"state", "State", state});
+  report.Add({"profiles", "Profiles", std::move(profiles)});
+  report.Add({"media", "Media", MediaRows(file, document)});
+  const char* label = saved ? "Lines that were dropped" : "Lines that don't count";
+  report.Add({"ignored", lines.empty() ? nullptr : label, std::move(ignored)});
+}
+
+Answer Media(const Arguments& arguments) {
+  const std::vector<CustomChange> changes = ParseChanges(arguments);
+  const Document document = LoadDocument(arguments.Get("DOC"));
+  APMQDF& content = *document.content;
+  const std::string path =
+      DriverFilePath(document, content.GetCustomMediaFile(), "custom media file");
+  Object report{{"document", "Document", document.path}, {"file", "Custom media file", path}};
+  const CustomFile former = ReadCustomFile(path);
+  RefuseUnknown(path, former, changes);
+  const bool saved = !changes.empty();
+  AddFile(saved ? ChangeCustomFile(path, changes) : former, former.ignored, saved, content, report);
+  return {report};
+}
+
+constexpr Option kOptions[] = {
+    {"DOC", "", "The document", true},
+    {"--set-name", "M=NAME", "Set the display name of medium M; none removes it", false,
+     Times::kMany},
+    {"--set-profile", "M=FILE", "Set the ICC profile of medium M; none removes it", false,
+     Times::kMany},
+    {"--add-profile", "FILE", "Add an ICC profile to the list", false, Times::kMany},
+    {"--remove", "M", "Remove what is set for medium M", false, Times::kMany},
+};
+
+}  // namespace
+
+const Command kMediaCommand = {
+    "media",
+    "Show or change the custom media file that a document names",
+    "The file lies in OutputDrivers. A change writes it anew, and lines that are no entries go;\n"
+    "removals come before all else. A profile can't be taken off the list.",
+    "qdf media plot36.qdf\n"
+    "  qdf media plot36.qdf --set-name Glossy=Silk --add-profile silk.icc",
+    kOptions,
+    Media,
+};
