@@ -70,4 +70,5 @@ extern const Command kNarrowCommand;
 extern const Command kTreeCommand;
 extern const Command kLocaliseCommand;
 extern const Command kMediaCommand;
+extern const Command kOptionsCommand;
 extern const Command kWriteCommand;

@@ -1,6 +1,6 @@
 #include "tool/driverfile.h"
 
-#include "qdf/localise/textlines.h"
+#include "qdf/support/outputdrivers.h"
 #include "qdf/support/text.h"
 #include "tool/failure.h"
 #include "tool/printable.h"

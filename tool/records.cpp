@@ -1,8 +1,7 @@
 #include "tool/records.h"
 
-#include <charconv>
-
 #include "qdf/support/text.h"
+#include "tool/optionfields.h"
 
 namespace {
 
@@ -18,44 +17,14 @@ Object With(Object row, std::initializer_list<Field> more) {
   return row;
 }
 
-// The number that the float's shortest decimal form names: 0.1 rather than 0.10000000149.
-double Decimal(float number) {
-  char digits[32];
-  const char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-  double decimal = 0;
-  std::from_chars(digits, end, decimal);
-  return decimal;
-}
-
-template <class Number, std::size_t N>
-List Numbers(const Number (&numbers)[N]) {
-  return List(std::begin(numbers), std::end(numbers));
-}
-
-double Unsigned(unsigned int number) { return number; }
-
 // The settings and the curve, which a document leaves at their defaults, are for programs only.
 Object MakeRow(const ANewColorOpt& option) {
-  const ColorantInfo& colorant = option.Colorant;
-  return {{"displayName", "Colorant", FieldText(colorant.DisplayName)},
-          {"internalName", "Internal", FieldText(colorant.InternalName)},
-          {"colorDepth", "Depth", colorant.ColorDepth},
-          {"isSpotColor", "Spot", colorant.IsSpotColor},
-          {"isPrint", "Print", colorant.IsPrint},
-          {"shape", "Shape", FieldText(option.Shape)},
-          {"frequency", "Frequency", Decimal(option.Frequency)},
-          {"angle", "Angle", Decimal(option.Angle)},
-          {"setting0", nullptr, option.Setting0},
-          {"setting4", nullptr, option.Setting4},
-          {"setting5", nullptr, option.Setting5},
-          {"setting6", nullptr, option.Setting6},
-          {"setting7", nullptr, option.Setting7},
-          {"setting8", nullptr, option.Setting8},
-          {"setting9", nullptr, Unsigned(option.Setting9)},
-          {"setting10", nullptr, Unsigned(option.Setting10)},
-          {"colorantSetting5", nullptr, Unsigned(colorant.ColorantSetting5)},
-          {"curveValues", nullptr, Numbers(option.CurveValues)},
-          {"curveFlags", nullptr, Numbers(option.CurveFlags)}};
+  Object row;
+  for (const OptionField& field : kOptionFields) {
+    row.Add({field.key, field.isSetting ? nullptr : field.label, field.read(option)});
+  }
+  AddCurve(option, row);
+  return row;
 }
 
 }  // namespace

@@ -47,6 +47,7 @@ struct Value {
   Value() = default;
   Value(bool flag) : data(flag) {}
   Value(int number) : data(std::int64_t{number}) {}
+  Value(unsigned int number) : data(std::int64_t{number}) {}
   Value(double number) : data(number) {}
   Value(const char* text) : data(std::string(text)) {}
   Value(std::string_view text) : data(std::string(text)) {}
@@ -68,6 +69,9 @@ struct Field {
   const char* key;
   const char* label;
   Value value;
+  std::optional<Value> brief{};  // what people see instead
+
+  const Value& Shown() const { return brief ? *brief : value; }
 };
 
 // The field of a node of an outline that holds the nodes below it. Of the node's other fields the

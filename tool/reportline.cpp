@@ -17,8 +17,8 @@ std::string Join(const Object& object) {
   std::string text;
   for (const Field& field : object.fields) {
     if (field.label == nullptr) continue;
-    const bool* flag = std::get_if<bool>(&field.value.data);
-    const std::string part = flag == nullptr ? LineText(field.value)
+    const bool* flag = std::get_if<bool>(&field.Shown().data);
+    const std::string part = flag == nullptr ? LineText(field.Shown())
                              : *flag         ? '(' + std::string(field.label) + ')'
                                              : std::string();
     if (!text.empty() && !part.empty()) text += object.joint;

@@ -44,7 +44,7 @@ Table::Cell Table::MakeCell(const Value& value) {
 void Table::AddHeader(const Object& row) {
   for (const Field& field : row.fields) {
     if (field.label == nullptr) continue;
-    if (const List* inner = AsRows(field.value)) {
+    if (const List* inner = AsRows(field.Shown())) {
       AddHeader(*AsObject(inner->front()));
     } else {
       lines_.front().push_back({MakePrintable(field.label), true});
@@ -56,10 +56,10 @@ std::size_t Table::AddRow(const Object& row, std::size_t line, std::size_t colum
   if (line >= lines_.size()) lines_.resize(line + 1);
   for (const Field& field : row.fields) {
     if (field.label == nullptr) continue;
-    const List* inner = AsRows(field.value);
+    const List* inner = AsRows(field.Shown());
     if (inner == nullptr) {
       if (column >= lines_[line].size()) lines_[line].resize(column + 1);
-      lines_[line][column++] = MakeCell(field.value);
+      lines_[line][column++] = MakeCell(field.Shown());
       continue;
     }
     std::size_t behind = column;

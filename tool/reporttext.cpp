@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kIndent = 2;
 
 std::string LabelledLine(const Field& field) {
-  return std::string(field.label) + ": " + MakePrintable(LineText(field.value)).text;
+  return std::string(field.label) + ": " + MakePrintable(LineText(field.Shown())).text;
 }
 
 class TextLayout {
@@ -23,8 +23,8 @@ class TextLayout {
     Object loose;  // the lines that stand together until something larger comes
     for (const Field& field : report.fields) {
       if (field.label == nullptr) continue;
-      const Object* object = AsObject(field.value);
-      const List* rows = AsTable(field.value);
+      const Object* object = AsObject(field.Shown());
+      const List* rows = AsTable(field.Shown());
       if (object == nullptr && rows == nullptr) {
         loose.Add(field);
         continue;
@@ -89,14 +89,15 @@ class TextLayout {
       if (field.label == nullptr) continue;
       std::string line = std::string(field.label) + ':';
       line.resize(width + 1 + kIndent, ' ');
-      const std::string text = MakePrintable(LineText(field.value)).text;
+      const std::string text = MakePrintable(LineText(field.Shown())).text;
       AddLine(title != nullptr ? kIndent : 0, line + (text.empty() ? "-" : text));
     }
   }
 
   void AddOutline(const char* title, const Object& root) {
     StartParagraph();
-    const Value& children = std::find_if(root.fields.begin(), root.fields.end(), IsChildren)->value;
+    const Value& children =
+        std::find_if(root.fields.begin(), root.fields.end(), IsChildren)->Shown();
     const char* none = AsList(children)->empty() ? ": none" : "";
     AddNode(Bold(title) + none, root, root.fields.begin(), 0);
   }
@@ -112,7 +113,7 @@ class TextLayout {
     AddLine(indent, notes.empty() ? head : head + notes + ')');
     for (FieldPlace field = rest; field != node.fields.end(); ++field) {
       if (IsChildren(*field)) {
-        for (const Value& child : *AsList(field->value))
+        for (const Value& child : *AsList(field->Shown()))
           AddChild(*AsObject(child), indent + kIndent);
       } else if (field->label != nullptr && !IsNote(*field)) {
         AddLine(indent + kIndent, LabelledLine(*field));
@@ -121,8 +122,8 @@ class TextLayout {
   }
 
   static bool IsNote(const Field& field) {
-    return AsObject(field.value) != nullptr ||
-           std::holds_alternative<std::int64_t>(field.value.data);
+    return AsObject(field.Shown()) != nullptr ||
+           std::holds_alternative<std::int64_t>(field.Shown().data);
   }
 
   void AddChild(const Object& node, std::size_t indent) {

@@ -73,8 +73,7 @@ List NamesWithoutEntry(const std::vector<ShownName>& names, const Table& table) 
   }
   List rows;
   for (Group& group : groups) {
-    rows.emplace_back(Object{{"list", nullptr, group.name->key},
-                             {nullptr, "List", group.name->label},
+    rows.emplace_back(Object{{"list", "List", group.name->key, group.name->label},
                              {"displayName", "Display name", group.name->name},
                              {"ids", "IDs", std::move(group.ids)}});
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/files.h"
+#include "tests/tool/colours.h"
 #include "tests/tool/commands.h"
 #include "tests/tool/run.h"
 
@@ -66,6 +67,8 @@ std::vector<std::string> Examples(const std::string& help) {
 // What the examples of the help pages take for granted.
 void FillExampleFolder(const TempFolder& folder) {
   std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("OutputDrivers"));
+  WriteColours(folder.Path("colours.opt"));
+  WriteColours(folder.Path("changed.opt"));
 }
 
 TEST(CommandLine, HelpOfEachCommandHasExamplesThatWork) {

@@ -71,10 +71,13 @@ PathPair Pair(int entry, const PathNode* before, const PathNode* after) {
 
 Comparison::Comparison(APMQDF& before, APMQDF& after) : header(CompareHeaders(before, after)) {
   for (const DocumentList& list : kDocumentLists) {
-    lists.push_back({&list, list.rows(before), list.rows(after), {}, {}});
+    lists.push_back({&list, list.rows(before), list.rows(after), {}, {}, {}});
     ListComparison& compared = lists.back();
     compared.entries = PairEntries(compared.before, compared.after);
-    for (const EntryPair& entry : compared.entries) compared.names.push_back(entry.name);
+    for (const EntryPair& entry : compared.entries) {
+      compared.names.push_back(entry.name);
+      compared.formerNames.push_back(entry.formerName);
+    }
   }
   for (const PathKind& kind : kPathKinds) paths.push_back({&kind, {}, {}, {}});
   for (PathComparison& each : paths) ComparePaths(before, after, each);

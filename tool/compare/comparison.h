@@ -15,6 +15,7 @@ struct ListComparison {
   List after;
   std::vector<EntryPair> entries;  // into both
   std::vector<std::string> names;  // of the entries
+  std::vector<std::string> formerNames;
 };
 
 // A path of at least one of the two documents.
@@ -46,6 +47,9 @@ class Comparison {
 
   const std::vector<std::string>& NamesOf(const PathLevel& level) const {
     return lists[level.list].names;
+  }
+  const std::vector<std::string>& FormerNamesOf(const PathLevel& level) const {
+    return lists[level.list].formerNames;
   }
 
  private:

@@ -17,6 +17,13 @@ std::string TextOf(const Object& row, std::string_view key) {
 
 std::string InternalName(const Object& row) { return TextOf(row, "internalName"); }
 std::string DisplayName(const Object& row) { return TextOf(row, "displayName"); }
+// What a resolution is, whatever its name; empty for other entries.
+std::string Numbers(const Object& row) {
+  const Value* x = row.Find("xResolution");
+  const Value* y = row.Find("yResolution");
+  return x != nullptr && y != nullptr ? LineText(*x) + 'x' + LineText(*y) : std::string();
+}
+
 // A zero byte stands in no name.
 std::string BothNames(const Object& row) { return InternalName(row) + '\0' + DisplayName(row); }
 
@@ -71,18 +78,18 @@ std::string NameOf(const Object& row, Detail detail) {
   return name;
 }
 
-// Names are as short as they can be without one for two.
-void NameEach(std::vector<EntryPair>& pairs) {
+// Names are as short as they can be without one for two. They are those of one document where it
+// has the entry, and else of the other.
+void NameEach(std::vector<EntryPair>& pairs, std::string EntryPair::*name,
+              const Object* EntryPair::*side, const Object* EntryPair::*other) {
   std::unordered_map<std::string, int> uses;
   for (const Detail detail : {Detail::kOneName, Detail::kBothNames, Detail::kWithID}) {
-    const auto isNamed = [&](const EntryPair& pair) {
-      return !pair.name.empty() && uses[pair.name] == 1;
-    };
     std::unordered_map<std::string, int> usesNow;
     for (EntryPair& pair : pairs) {
-      if (!isNamed(pair))
-        pair.name = NameOf(pair.after != nullptr ? *pair.after : *pair.before, detail);
-      ++usesNow[pair.name];
+      const bool isNamed = !(pair.*name).empty() && uses[pair.*name] == 1;
+      const Object& row = pair.*side != nullptr ? *(pair.*side) : *(pair.*other);
+      if (!isNamed) pair.*name = NameOf(row, detail);
+      ++usesNow[pair.*name];
     }
     uses = std::move(usesNow);
   }
@@ -116,6 +123,7 @@ std::vector<EntryPair> PairEntries(const List& before, const List& after) {
   pairing.By(BothNames);
   pairing.By(InternalName);
   pairing.By(DisplayName);
+  pairing.By(Numbers);
   std::vector<EntryPair> pairs(after.size());
   for (std::size_t i = 0; i < after.size(); ++i) pairs[i].after = &RowAt(after, i);
   for (std::size_t i = 0; i < before.size(); ++i) {
@@ -126,7 +134,8 @@ std::vector<EntryPair> PairEntries(const List& before, const List& after) {
       pairs[partner].before = &RowAt(before, i);
     }
   }
-  NameEach(pairs);
+  NameEach(pairs, &EntryPair::name, &EntryPair::after, &EntryPair::before);
+  NameEach(pairs, &EntryPair::formerName, &EntryPair::before, &EntryPair::after);
   for (EntryPair& pair : pairs) {
     if (pair.IsInBoth()) pair.changes = CompareFields(*pair.before, *pair.after);
   }
@@ -138,7 +147,8 @@ std::vector<FieldChange> CompareFields(const Object& before, const Object& after
   for (const Field& field : before.fields) {
     const std::string_view key = field.key;
     const Value* other = after.Find(key);
-    if (key == "id" || other == nullptr || field.value == *other) continue;
+    const bool isSeen = field.label != nullptr && key != "id" && other != nullptr;
+    if (!isSeen || field.value == *other) continue;
     const List* parts = AsList(field.value);
     if (parts != nullptr && (AsRows(field.value) != nullptr || AsRows(*other) != nullptr)) {
       CompareParts(field, *parts, *AsList(*other), changes);

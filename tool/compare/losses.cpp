@@ -42,15 +42,14 @@ class Losses {
     List rows;
     for (const Kind& kind : kinds_) {
       const char* noun = kind.count == 1 ? kind.unit->one : kind.unit->many;
-      rows.emplace_back(Object{{"what", "What", kind.name},
-                               {"count", nullptr, kind.count},
-                               {"unit", nullptr, kind.unit->key},
-                               {nullptr, "In", std::to_string(kind.count) + ' ' + noun},
-                               {"first", "First of them", kind.place.name},
-                               {"before", nullptr, kind.place.before},
-                               {"after", nullptr, kind.place.after},
-                               {nullptr, "Before", Brief(kind.place.before)},
-                               {nullptr, "After", Brief(kind.place.after)}});
+      const Place& place = kind.place;
+      rows.emplace_back(
+          Object{{"what", "What", kind.name},
+                 {"count", nullptr, kind.count},
+                 {"unit", "In", kind.unit->key, std::to_string(kind.count) + ' ' + noun},
+                 {"first", "First of them", place.name},
+                 {"before", "Before", place.before, Brief(place.before)},
+                 {"after", "After", place.after, Brief(place.after)}});
     }
     return rows;
   }
