@@ -72,3 +72,5 @@ extern const Command kLocaliseCommand;
 extern const Command kMediaCommand;
 extern const Command kOptionsCommand;
 extern const Command kWriteCommand;
+extern const Command kResourcesCommand;
+extern const Command kUpdateCommand;

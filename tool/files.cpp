@@ -53,6 +53,19 @@ bool Exists(const std::string& path) {
   return stat(path.c_str(), &status) == 0;
 }
 
+void RequireFolder(const std::string& path) {
+  struct stat status {};
+  const char* fault = nullptr;
+  if (stat(path.c_str(), &status) != 0) {
+    fault = "no such folder";
+  } else if (!S_ISDIR(status.st_mode)) {
+    fault = "it is no folder";
+  } else if (access(path.c_str(), R_OK | X_OK) != 0) {
+    fault = "no permission to search it";
+  }
+  if (fault != nullptr) throw Failure(kNoAnswer, path + ": " + fault);
+}
+
 std::string ReadWhole(const std::string& path) {
   FileBytes bytes;
   const char* fault = ReadFileBytes(path.c_str(), bytes);

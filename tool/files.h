@@ -10,6 +10,9 @@
 
 bool Exists(const std::string& path);
 
+// Throws a Failure unless it is a folder that can be searched.
+void RequireFolder(const std::string& path);
+
 // Throws a Failure that names the file and says why it can't be read.
 std::string ReadWhole(const std::string& path);
 

@@ -59,6 +59,7 @@ std::string WhyNot(AFilePath& path) {
 }  // namespace
 
 std::string DocumentPath(const std::string& name) {
+  if (name.empty()) throw Failure(kWrongUsage, "the name of the document is empty");
   if (name.find('/') != std::string::npos) return name;
   const AFilePath path = InOutputDrivers(name.c_str());
   const bool isHere = path.exists() == 0 && AFilePath(name.c_str()).exists() != 0;
@@ -66,7 +67,6 @@ std::string DocumentPath(const std::string& name) {
 }
 
 Document LoadDocument(const std::string& name) {
-  if (name.empty()) throw Failure(kWrongUsage, "the name of the document is empty");
   Document document{DocumentPath(name), nullptr};
   AFilePath path(document.path.c_str());
   APMQDF* loaded = nullptr;

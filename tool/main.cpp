@@ -14,8 +14,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kShowCommand,  &kNarrowCommand,  &kTreeCommand,  &kLocaliseCommand,
-    &kMediaCommand, &kOptionsCommand, &kWriteCommand,
+    &kShowCommand,    &kNarrowCommand, &kTreeCommand,      &kLocaliseCommand, &kMediaCommand,
+    &kOptionsCommand, &kWriteCommand,  &kResourcesCommand, &kUpdateCommand,
 };
 
 // As with git, an empty folder changes nothing.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/files.h"
+#include "tests/hpimport/resources.h"
 #include "tests/tool/colours.h"
 #include "tests/tool/commands.h"
 #include "tests/tool/run.h"
@@ -67,6 +68,7 @@ std::vector<std::string> Examples(const std::string& help) {
 // What the examples of the help pages take for granted.
 void FillExampleFolder(const TempFolder& folder) {
   std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("OutputDrivers"));
+  WriteResource(folder, "resources", {});
   WriteColours(folder.Path("colours.opt"));
   WriteColours(folder.Path("changed.opt"));
 }

@@ -66,7 +66,8 @@ TEST(Load, SaysWhyAFileCannotBeRead) {
   };
   // The same for every command, since all load in one way.
   for (const CommandUsage& command : Commands()) {
-    if (command.arguments.front() != "DOC") continue;
+    // An update writes DOC, and loads another document.
+    if (command.arguments.front() != "DOC" || command.name == "update") continue;
     for (const auto& refusal : refusals) {
       Words words = {command.name, refusal.name};
       words.insert(words.end(), command.arguments.begin() + 1, command.arguments.end());

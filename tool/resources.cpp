@@ -1,0 +1,59 @@
+// qdf resources: the HP resource files in a folder tree.
+
+#include "qdf/hpimport/hpresource.h"
+#include "qdf/hpimport/resourcefile.h"
+#include "qdf/support/ownership.h"
+#include "tool/command.h"
+#include "tool/files.h"
+
+namespace {
+
+Object MakeRow(const HPResourceInfo& resource) {
+  List names;
+  for (int i = 0; i < resource.DisplayNames.GetSize(); ++i) {
+    names.emplace_back(static_cast<const char*>(resource.DisplayNames.ElementAt(i)));
+  }
+  const auto text = [](const AString& field) { return static_cast<const char*>(field); };
+  return {{"media", "Media", text(resource.MediaName)},
+          {"displayNames", "Display names", std::move(names)},
+          {"isCustomizableMedia", "Customizable", resource.IsCustomizableMedia},
+          {"quality", "Quality", text(resource.QualityName)},
+          {"printQuality", "Print quality", text(resource.PrintQuality)},
+          {"displayResolution", "Resolution", text(resource.DisplayResolution)},
+          {"inputHRes", "X", resource.InputHRes},
+          {"inputVRes", "Y", resource.InputVRes},
+          {"inputFormat", "Inks", text(resource.InputFormat)},
+          {"blackDepth", "Black", resource.KColorDepth},
+          {"colorDepth", "Colour", resource.CColorDepth},
+          {"algorithm", "Algorithm", resource.Algorithm},
+          {"profile", "Profile", text(resource.OutputICC)},
+          {"file", "File", text(resource.FileName)}};
+}
+
+Answer Resources(const Arguments& arguments) {
+  const std::string& folder = arguments.Get("DIR");
+  RequireFolder(folder);
+  OwnedItems<HPResourceInfo> resources;
+  CollectHPResources(folder.c_str(), resources);
+  List rows;
+  for (int i = 0; i < resources.GetSize(); ++i) {
+    rows.emplace_back(MakeRow(*static_cast<const HPResourceInfo*>(resources.GetAt(i))));
+  }
+  return {{{"folder", "Folder", folder}, {"resources", "Resources", std::move(rows)}}};
+}
+
+constexpr Option kOptions[] = {
+    {"DIR", "", "The folder", true},
+};
+
+}  // namespace
+
+const Command kResourcesCommand = {
+    "resources",
+    "List the HP resource files in a folder tree",
+    "A resource file stands at MEDIA/QUALITY/MEDIA_QUALITY.xml. Files that are no well-formed XML\n"
+    "are passed over; 'qdf sweep --dry-run' tells of them. Black and Colour are bits.",
+    "qdf resources resources",
+    kOptions,
+    Resources,
+};

@@ -1,0 +1,154 @@
+// qdf update: a document follows a new set of HP resources.
+
+#include "qdf/hpimport/update.h"
+
+#include <unistd.h>
+
+#include "qdf/hpimport/updateddocument.h"
+#include "qdf/support/outputdrivers.h"
+#include "tool/command.h"
+#include "tool/compare/changes.h"
+#include "tool/files.h"
+
+namespace {
+
+std::string PreviousPath(const std::string& target) {
+  AString name;
+  AFilePath(target.c_str()).getFileName(name);
+  return static_cast<const char*>(InOutputDrivers(name));
+}
+
+Document LoadPrevious(const std::string& target, const std::string& path) {
+  try {
+    return LoadDocument(path);
+  } catch (const Failure& failure) {
+    const std::string line = std::string("no previous document: ") + failure.what();
+    if (target == path) throw Failure(kNoAnswer, line);
+    throw Failure(
+        kNoAnswer,
+        target + ": " + line + "; it is looked up in OutputDrivers of the working folder, see -C");
+  }
+}
+
+struct FaultText {
+  UpdateFault fault;
+  const char* text;
+};
+
+constexpr FaultText kFaults[] = {
+    {UpdateFault::NoResource,
+     "no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, stands in the folder"},
+    {UpdateFault::NoInk, "the previous document has no ink"},
+    {UpdateFault::NoMedia,
+     "no resource has a display name, or no id is left, so there would be no media"},
+    {UpdateFault::NoPrintMode,
+     "no quality folder's name begins with premium, superbest, best, normal, fast or draft, so "
+     "there would be no print mode"},
+    {UpdateFault::NoColorMode,
+     "no resource has a known ink layout, so there would be no colour mode"},
+};
+
+std::unique_ptr<APMQDF> Derive(APMQDF& previous, const std::string& folder) {
+  UpdatedDocument updated = DeriveUpdatedDocument(&previous, AFilePath(folder.c_str()));
+  if (updated.document != nullptr) return std::move(updated.document);
+  for (const FaultText& each : kFaults) {
+    if (each.fault == updated.fault) {
+      throw Failure(kNoAnswer, folder + ": nothing can be derived: " + each.text);
+    }
+  }
+  throw std::bad_alloc();
+}
+
+// The file beside the document that keeps what stood in it.
+class Backup {
+ public:
+  explicit Backup(const std::string& document) : path_(document + ".bak") {}
+
+  const std::string& Path() const { return path_; }
+
+  void Save(const std::string& bytes) {
+    if (Exists(path_)) former_ = ReadWhole(path_);
+    SaveWhole(path_, bytes);
+    saved_ = true;
+  }
+
+  // For when the document stays as it was.
+  void TakeBack() {
+    if (!saved_) return;
+    if (former_) {
+      SaveWhole(path_, *former_);
+    } else {
+      unlink(path_.c_str());
+    }
+  }
+
+ private:
+  std::string path_;
+  std::optional<std::string> former_;
+  bool saved_ = false;
+};
+
+// Null when there is no file.
+std::optional<std::string> ReadIfThere(const std::string& path) {
+  return Exists(path) ? std::optional(ReadWhole(path)) : std::nullopt;
+}
+
+void Write(const std::string& target, const std::string& folder, const std::string& bytes,
+           Backup& backup) {
+  PMUpdateQDF(AFilePath(target.c_str()), AFilePath(folder.c_str()));
+  if (ReadIfThere(target) == bytes) return;
+  backup.TakeBack();
+  throw Failure(kNoAnswer, target + ": it can't be saved: " + WhyNotSaved(target));
+}
+
+Answer Update(const Arguments& arguments) {
+  const std::string target = DocumentPath(arguments.Get("DOC"));
+  const std::string& folder = arguments.Get("RESOURCES");
+  const std::string previousPath = PreviousPath(target);
+  const Document previous = LoadPrevious(target, previousPath);
+  RequireFolder(folder);
+  const std::unique_ptr<APMQDF> derived = Derive(*previous.content, folder);
+  const WrittenForm written = MakeWrittenForm(*derived, target);
+  Object changes;
+  AddChanges(Comparison(*previous.content, *written.document), changes);
+
+  const std::optional<std::string> former = ReadIfThere(target);
+  const bool isSame = former == written.bytes;
+  const bool writes = !isSame && !arguments.Has("--dry-run");
+  Backup backup(target);
+  const bool keeps = writes && former && !arguments.Has("--no-backup");
+  if (keeps) backup.Save(*former);
+  if (writes) Write(target, folder, written.bytes, backup);
+
+  const char* state = isSame ? "up to date" : writes ? "written" : "would be written";
+  Object report{
+      {"document", "Document", target},
+      {"previousDocument", "Previous document", previousPath},
+      {"resources", "Resources", folder},
+      {"state", "State", state},
+      {"backup", keeps ? "Former file" : nullptr, keeps ? Value(backup.Path()) : Value()}};
+  for (Field& field : changes.fields) report.Add(std::move(field));
+  return {report};
+}
+
+constexpr Option kOptions[] = {
+    {"DOC", "", "The document to write", true},
+    {"RESOURCES", "", "The folder with the resources", true},
+    {"--dry-run", "", "Tell what would change and write nothing"},
+    {"--no-backup", "", "Don't keep the former file as DOC.bak"},
+};
+
+}  // namespace
+
+const Command kUpdateCommand = {
+    "update",
+    "Derive a document anew from HP resources and tell what changes",
+    "What resources don't hold comes from the previous document, which is the one in "
+    "OutputDrivers\n"
+    "with the file name of DOC, wherever DOC leads. What changed is told against it. A document\n"
+    "that is up to date isn't written.",
+    "qdf update plot36.qdf resources --dry-run\n"
+    "  qdf update plot36.qdf resources",
+    kOptions,
+    Update,
+};
