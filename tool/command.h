@@ -4,7 +4,9 @@
 // the table of main.cpp. A command answers with a report; it neither reads arguments from anywhere
 // else nor prints.
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -51,9 +53,21 @@ class Arguments {
   std::map<std::string, std::vector<std::string>, std::less<>> values_;
 };
 
+struct Question;
+
 struct Answer {
   Object report;
   ExitCode code = kAnswered;
+  // What the person is asked once the report is shown; none when all is done.
+  std::shared_ptr<const Question> question{};
+};
+
+// Whether to do what can't be undone.
+struct Question {
+  std::string text;  // one line, which "yes" answers
+  std::function<Answer()> onYes;
+  std::string onNo;     // a line
+  std::string unasked;  // a line for when nobody is at a terminal to answer
 };
 
 struct Command {
@@ -74,3 +88,4 @@ extern const Command kOptionsCommand;
 extern const Command kWriteCommand;
 extern const Command kResourcesCommand;
 extern const Command kUpdateCommand;
+extern const Command kSweepCommand;

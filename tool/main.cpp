@@ -15,13 +15,20 @@ namespace {
 
 const Command* const kCommands[] = {
     &kShowCommand,    &kNarrowCommand, &kTreeCommand,      &kLocaliseCommand, &kMediaCommand,
-    &kOptionsCommand, &kWriteCommand,  &kResourcesCommand, &kUpdateCommand,
+    &kOptionsCommand, &kWriteCommand,  &kResourcesCommand, &kUpdateCommand,   &kSweepCommand,
 };
 
 // As with git, an empty folder changes nothing.
 void ChangeFolder(const std::string& folder) {
   if (folder.empty() || chdir(folder.c_str()) == 0) return;
   throw Failure(kWrongUsage, "can't work in " + Quoted(folder) + ": " + std::strerror(errno));
+}
+
+// Programs are never asked.
+Answer Ask(const Question& question, bool json) {
+  if (json || !IsAtTerminal()) throw Failure(kNoAnswer, question.unasked);
+  if (!Confirm(question.text)) throw Failure(kNoAnswer, question.onNo);
+  return question.onYes();
 }
 
 int Run(int count, char** words) {
@@ -31,8 +38,12 @@ int Run(int count, char** words) {
     return kAnswered;
   }
   for (const std::string& folder : invocation.folders) ChangeFolder(folder);
-  const Answer answer = invocation.command->run(invocation.arguments);
+  Answer answer = invocation.command->run(invocation.arguments);
   PrintReport(answer.report, invocation.json);
+  while (answer.question != nullptr) {
+    answer = Ask(*answer.question, invocation.json);
+    PrintReport(answer.report, invocation.json);
+  }
   return answer.code;
 }
 

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "qdf/support/text.h"
 #include "tool/printable.h"
 
 namespace {
@@ -52,6 +53,17 @@ void Complain(std::string_view line) {
 void Complain(const Failure& failure) {
   Complain(failure.what());
   WriteAll(STDERR_FILENO, RenderText(failure.below, false));
+}
+
+bool IsAtTerminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0; }
+
+bool Confirm(std::string_view question) {
+  Print('\n' + MakePrintable(question).text + " [y/N] ");
+  std::string answer;
+  char c = 0;
+  while (read(STDIN_FILENO, &c, 1) == 1 && c != '\n') answer += c;
+  const std::string_view word = Trimmed(answer);
+  return EqualNoCase(word, "y") || EqualNoCase(word, "yes");
 }
 
 void ComplainOfMemory() { WriteAll(STDERR_FILENO, "qdf: out of memory\n"); }

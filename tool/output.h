@@ -1,6 +1,6 @@
 #pragma once
 
-// The one place that writes to the standard streams.
+// The one place that writes to the standard streams, and reads an answer from there.
 
 #include <string>
 #include <string_view>
@@ -17,6 +17,12 @@ void PrintReport(const Object& report, bool asJson);
 // To standard error, as a line that begins with the program's name.
 void Complain(std::string_view line);
 void Complain(const Failure& failure);
+
+// Whether a person sees what is printed and can answer.
+bool IsAtTerminal();
+
+// Asks at the terminal. Only "y" and "yes", in any case, mean yes.
+bool Confirm(std::string_view question);
 
 // Needs no memory.
 void ComplainOfMemory();

@@ -1,7 +1,6 @@
 // Where the output goes, and what it does to a terminal.
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include "tests/files.h"
 #include "tests/tool/run.h"
@@ -10,30 +9,18 @@ namespace {
 
 const Words kInks = {"show", "plot36.qdf", "--list", "inks"};
 
-std::string OnTerminal(const Words& words, const Words& environment) {
-  const int master = posix_openpt(O_RDWR | O_NOCTTY);
-  if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) return "no terminal";
-  const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
-  EXPECT_EQ(RunTool(words, {QDF_EXAMPLES, environment, terminal}).code, 0);
-  char bytes[1024];
-  const ssize_t got = read(master, bytes, sizeof bytes);
-  close(terminal);
-  close(master);
-  return {bytes, got > 0 ? static_cast<std::size_t>(got) : 0};
-}
-
 TEST(Output, IsBoldOnATerminalOnly) {
   const std::string bold =
       "\x1b[1mInks (1)\x1b[0m\r\n"
       "  \x1b[1mID  Display name  Internal name\x1b[0m\r\n"
-      "   1  Standard      Standard\r\n";
+      "   1  Standard      Standard\r\ncode 0";
   const std::string plain =
       "Inks (1)\r\n"
       "  ID  Display name  Internal name\r\n"
-      "   1  Standard      Standard\r\n";
-  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=", "TERM=xterm"}), bold);
-  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=1", "TERM=xterm"}), plain);
-  EXPECT_EQ(OnTerminal(kInks, {"NO_COLOR=", "TERM=dumb"}), plain);
+      "   1  Standard      Standard\r\ncode 0";
+  EXPECT_EQ(OnTerminal(kInks, {}), bold);
+  EXPECT_EQ(OnTerminal(kInks, {.environment = {"NO_COLOR=1", "TERM=xterm"}}), plain);
+  EXPECT_EQ(OnTerminal(kInks, {.environment = {"NO_COLOR=", "TERM=dumb"}}), plain);
   EXPECT_EQ(RunTool(kInks).out.find('\x1b'), std::string::npos);
 }
 

@@ -35,7 +35,7 @@ Resources (2)
 TEST(QdfResources, NeedsAFolder) {
   const TempFolder folder;
   folder.Write("file", "");
-  for (const char* command : {"resources"}) {
+  for (const char* command : {"resources", "sweep"}) {
     EXPECT_EQ(RunTool({command, "none"}, {folder.Path()}),
               (Outcome{1, "", "qdf: none: no such folder\n"}));
     EXPECT_EQ(RunTool({command, "file"}, {folder.Path()}),

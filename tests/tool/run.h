@@ -34,6 +34,7 @@ inline std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
 struct Setting {
   std::string folder = QDF_EXAMPLES;
   Words environment{"NO_COLOR=", "TERM=xterm"};
+  int in = -1;            // is read instead of nothing
   int out = -1;           // takes standard output instead of the outcome
   bool asNobody = false;  // without root's rights to read everything
 };
@@ -54,8 +55,9 @@ inline std::string ReadBack(int file) {
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   for (const std::string& variable : setting.environment) putenv(strdup(variable.c_str()));
-  const bool ready = chdir(setting.folder.c_str()) == 0 && dup2(out, STDOUT_FILENO) >= 0 &&
-                     dup2(err, STDERR_FILENO) >= 0 &&
+  const int in = setting.in >= 0 ? setting.in : open("/dev/null", O_RDONLY | O_CLOEXEC);
+  const bool ready = chdir(setting.folder.c_str()) == 0 && dup2(in, STDIN_FILENO) >= 0 &&
+                     dup2(out, STDOUT_FILENO) >= 0 && dup2(err, STDERR_FILENO) >= 0 &&
                      (!setting.asNobody || geteuid() != 0 || setuid(kNobody) == 0);
   if (ready) fexecve(program, arguments.data(), environ);
   _exit(127);
@@ -73,6 +75,22 @@ inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
   close(program);
   return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ReadBack(out),
           ReadBack(err)};
+}
+
+// What a person at a terminal sees who has typed that, and the exit code behind it.
+inline std::string OnTerminal(const Words& words, Setting setting, const std::string& typed = {}) {
+  const int master = posix_openpt(O_RDWR | O_NOCTTY);
+  if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) return "no terminal";
+  const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
+  if (write(master, typed.data(), typed.size()) < 0) return "no terminal";
+  setting.in = setting.out = terminal;
+  const Outcome outcome = RunTool(words, setting);
+  char bytes[4096];
+  const ssize_t got = read(master, bytes, sizeof bytes);
+  close(terminal);
+  close(master);
+  return std::string(bytes, got > 0 ? static_cast<std::size_t>(got) : 0) + outcome.err + "code " +
+         std::to_string(outcome.code);
 }
 
 // Of a line without quotation marks.

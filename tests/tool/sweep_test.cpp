@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "tests/files.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class QdfSweep : public testing::Test {
+ protected:
+  QdfSweep() {
+    folder_.Write("tree/Good/best/Good_best.xml", "<r release='2.5'/>");
+    folder_.Write("tree/Old/best/Old_best.xml", "<r release='1.5'/>");
+    folder_.Write("tree/output_icc/p.icc", "");
+    folder_.Write("outside/kept", "");
+  }
+
+  Outcome Run(const std::string& words) const {
+    return RunTool(SplitWords("sweep " + words), {folder_.Path()});
+  }
+
+  bool Has(const std::string& name) const { return fs::exists(folder_.Path("tree/" + name)); }
+
+  TempFolder folder_;
+};
+
+constexpr const char* kTable =
+    "Folder:   tree\n"
+    "Unsound:  1\n"
+    "\n"
+    "Media folders (2)\n"
+    "  Media  Verdict  File or folder              Why\n"
+    "  Good   sound\n"
+    "  Old    unsound  tree/Old/best/Old_best.xml  its release, \"1.5\", isn't 2 or more and below "
+    "3\n";
+
+std::string WithReturns(std::string text) {
+  for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
+    text.insert(at, 1, '\r');
+  }
+  return text;
+}
+
+TEST_F(QdfSweep, TellsEveryReason) {
+  folder_.Write("tree/Bad/best/Bad_best.xml", "<r release='2.5'>\n  <x></r>");
+  folder_.Write("tree/Deep/best/sub/file", "");
+  fs::create_directory(folder_.Path("tree/Empty"));
+  folder_.Write("tree/File/file", "");
+  folder_.Write("tree/None/best/file", "");
+  folder_.Write("tree/Mute/best/Mute_best.xml", "<r/>");
+  const Outcome listed = Run("tree --dry-run");
+  EXPECT_EQ(listed, (Outcome{0, R"(Folder:   tree
+Unsound:  7
+
+Media folders (8)
+  Media  Verdict  File or folder                  Why
+  Bad    unsound  tree/Bad/best/Bad_best.xml:2:6  this end tag does not match its start tag
+  Deep   unsound  tree/Deep/best/sub              it is a folder, but lies in a quality folder
+  Empty  unsound  tree/Empty                      nothing lies in it
+  File   unsound  tree/File/file                  it is no folder, but lies in a media folder
+  Good   sound
+  Mute   unsound  tree/Mute/best/Mute_best.xml    it has no release
+  None   unsound  tree/None/best                  no resource file lies in it
+  Old    unsound  tree/Old/best/Old_best.xml      its release, "1.5", isn't 2 or more and below 3
+)"}));
+  EXPECT_TRUE(Has("Old"));
+  const nlohmann::json report = RunJson({"sweep", "tree", "--yes"}, {folder_.Path()});
+  EXPECT_EQ(report["unsound"], 7);
+  EXPECT_EQ(report["media"][3]["sound"], false);
+  EXPECT_EQ(report["deleted"], 7);
+  EXPECT_EQ(report["left"], nlohmann::json::array());
+  EXPECT_TRUE(Has("Good") && Has("output_icc") && !Has("Old") && !Has("Empty"));
+}
+
+TEST_F(QdfSweep, DeletesNothingWithoutAYes) {
+  const std::string nobody =
+      "qdf: tree: nothing was deleted: nobody is at a terminal to be asked, see --yes\n";
+  EXPECT_EQ(Run("tree"), (Outcome{1, kTable, nobody}));
+  EXPECT_EQ(Run("tree --json").err, nobody);
+  EXPECT_EQ(Run("tree --yes --dry-run").code, 2);
+  const Setting plain{.folder = folder_.Path(), .environment = {"NO_COLOR=1"}};
+  for (const std::string typed : {"n\n", "\n", "yesterday\n", "\x04"}) {
+    const std::string seen = OnTerminal({"sweep", "tree"}, plain, typed);
+    EXPECT_TRUE(seen.ends_with("qdf: tree: nothing was deleted\ncode 1")) << seen;
+  }
+  EXPECT_TRUE(OnTerminal({"sweep", "tree", "--json"}, plain, "y\n").ends_with(nobody + "code 1"));
+  EXPECT_TRUE(Has("Old"));
+}
+
+TEST_F(QdfSweep, DeletesAfterAYesOnTheTerminal) {
+  const std::string seen = OnTerminal(
+      {"sweep", "tree"}, {.folder = folder_.Path(), .environment = {"NO_COLOR=1"}}, "Yes\n");
+  EXPECT_EQ(seen, "Yes\r\n" + WithReturns(kTable) +
+                      "\r\nDelete for good what is unsound, 1 of 2 media folders? [y/N] "
+                      "Deleted media folders:  1\r\ncode 0");
+  EXPECT_FALSE(Has("Old"));
+  EXPECT_TRUE(Has("Good"));
+  EXPECT_EQ(Run("tree").code, 0);
+}
+
+TEST_F(QdfSweep, TellsWhatCannotBeDeleted) {
+  fs::create_directory_symlink(folder_.Path("outside"), folder_.Path("tree/Old/link"));
+  folder_.Write("tree/Loose/file", "");
+  for (const char* name : {"", "tree", "tree/Loose", "tree/Old"}) {
+    ASSERT_EQ(chmod(folder_.Path(name).c_str(), 0777), 0);
+  }
+  const Outcome swept =
+      RunTool({"sweep", "tree", "--yes"}, {.folder = folder_.Path(), .asNobody = true});
+  EXPECT_EQ(swept.code, 1);
+  EXPECT_TRUE(
+      swept.out.ends_with("\nDeleted media folders:  1\n\n"
+                          "Not or not wholly deleted (1)\n  Folder\n  tree/Old\n"))
+      << swept;
+  EXPECT_TRUE(Has("Old/best/Old_best.xml") && !Has("Loose"));
+  EXPECT_EQ(Run("tree --yes").code, 0);
+  EXPECT_TRUE(fs::exists(folder_.Path("outside/kept")));
+}
+
+}  // namespace

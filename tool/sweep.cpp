@@ -1,0 +1,142 @@
+// qdf sweep: which media folders of a resource tree are unsound, and away with them.
+
+#include <sys/stat.h>
+
+#include "qdf/hpimport/sweepsteps.h"
+#include "tool/command.h"
+#include "tool/files.h"
+#include "tool/printable.h"
+
+namespace {
+
+using Folders = std::vector<MediaFolder>;
+
+struct FaultText {
+  FolderFault fault;
+  const char* text;
+};
+
+constexpr FaultText kFaults[] = {
+    {FolderFault::None, ""},
+    {FolderFault::Unsearchable, "it can't be searched"},
+    {FolderFault::Empty, "nothing lies in it"},
+    {FolderFault::FileInMedia, "it is no folder, but lies in a media folder"},
+    {FolderFault::FolderInQuality, "it is a folder, but lies in a quality folder"},
+    {FolderFault::NoResource, "no resource file lies in it"},
+};
+
+std::string Tell(const FolderVerdict& verdict) {
+  if (verdict.fault == FolderFault::NotXML) {
+    return static_cast<const char*>(verdict.xmlFault.Reason);
+  }
+  if (verdict.fault == FolderFault::WrongRelease) {
+    const std::string release(static_cast<const char*>(verdict.release));
+    return release.empty() ? "it has no release"
+                           : "its release, " + Quoted(release) + ", isn't 2 or more and below 3";
+  }
+  for (const FaultText& each : kFaults) {
+    if (each.fault == verdict.fault) return each.text;
+  }
+  return "it is unsound";
+}
+
+// As compilers name a place.
+std::string PlaceOf(const FolderVerdict& verdict) {
+  std::string place(static_cast<const char*>(verdict.path));
+  const AXMLFault& fault = verdict.xmlFault;
+  if (verdict.fault == FolderFault::NotXML && fault.Line != 0) {
+    place += ':' + std::to_string(fault.Line) + ':' + std::to_string(fault.Column);
+  }
+  return place;
+}
+
+List Rows(const Folders& folders) {
+  List rows;
+  for (const MediaFolder& folder : folders) {
+    const bool isSound = folder.verdict.IsSound();
+    rows.emplace_back(Object{{"media", "Media", static_cast<const char*>(folder.name)},
+                             {"sound", "Verdict", isSound, isSound ? "sound" : "unsound"},
+                             {"place", "File or folder", PlaceOf(folder.verdict)},
+                             {"reason", "Why", Tell(folder.verdict)}});
+  }
+  return rows;
+}
+
+bool IsThere(const char* path) {
+  struct stat status {};
+  return lstat(path, &status) == 0;
+}
+
+// Deletes what was found to be unsound, and no more.
+Answer Delete(const Folders& unsound) {
+  int deleted = 0;
+  List left;
+  for (const MediaFolder& folder : unsound) {
+    RemoveFolderTree(folder.path);
+    if (IsThere(folder.path)) {
+      left.emplace_back(Object{{"path", "Folder", static_cast<const char*>(folder.path)}});
+    } else {
+      ++deleted;
+    }
+  }
+  Object report{{"deleted", "Deleted media folders", deleted}};
+  const bool isDone = left.empty();
+  report.Add({"left", isDone ? nullptr : "Not or not wholly deleted", std::move(left)});
+  return {report, isDone ? kAnswered : kNoAnswer};
+}
+
+std::shared_ptr<const Question> AskToDelete(const std::string& folder, const Folders& unsound,
+                                            std::size_t all) {
+  const std::string counts = std::to_string(unsound.size()) + " of " + std::to_string(all);
+  return std::make_shared<Question>(
+      Question{"Delete for good what is unsound, " + counts + " media folders?",
+               [=] { return Delete(unsound); }, folder + ": nothing was deleted",
+               folder + ": nothing was deleted: nobody is at a terminal to be asked, see --yes"});
+}
+
+Answer Sweep(const Arguments& arguments) {
+  const bool isDry = arguments.Has("--dry-run");
+  const bool isSure = arguments.Has("--yes");
+  if (isDry && isSure) throw Failure(kWrongUsage, "--yes and --dry-run don't go together");
+  const std::string& folder = arguments.Get("DIR");
+  RequireFolder(folder);
+  const Folders folders = ExamineMediaFolders(AFilePath(folder.c_str()));
+  Folders unsound;
+  for (const MediaFolder& each : folders) {
+    if (!each.verdict.IsSound()) unsound.push_back(each);
+  }
+  Answer answer{{{"folder", "Folder", folder},
+                 {"unsound", "Unsound", static_cast<int>(unsound.size())},
+                 {"media", "Media folders", Rows(folders)}}};
+  if (isDry) return answer;
+  if (isSure || unsound.empty()) {
+    Answer deletion = Delete(unsound);
+    for (Field& field : deletion.report.fields) answer.report.Add(std::move(field));
+    answer.code = deletion.code;
+  } else {
+    answer.question = AskToDelete(folder, unsound, folders.size());
+  }
+  return answer;
+}
+
+constexpr Option kOptions[] = {
+    {"DIR", "", "The folder with the media folders", true},
+    {"--dry-run", "", "List the verdicts and delete nothing"},
+    {"--yes", "", "Delete without asking"},
+};
+
+}  // namespace
+
+const Command kSweepCommand = {
+    "sweep",
+    "Delete the unsound media folders of an HP resource tree",
+    "A media folder is sound when it holds quality folders only, at least one, and each of these "
+    "a\n"
+    "resource file, no folder and no resource file but well-formed ones with a release of 2 and\n"
+    "more, but below 3. The folder output_icc, plain files in DIR and what links lead to stay.\n"
+    "Unsound folders go for good: the list comes first, and then the question.",
+    "qdf sweep resources --dry-run\n"
+    "  qdf sweep resources --yes",
+    kOptions,
+    Sweep,
+};
