@@ -36,8 +36,8 @@ install(FILES ${generated}/apmqdf.pc DESTINATION ${pkgconfig_folder} COMPONENT d
 if(TARGET qdf)
   install(TARGETS qdf RUNTIME COMPONENT tool)
   install(FILES ${PROJECT_SOURCE_DIR}/docs/qdf.1
-    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool OPTIONAL)
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES ${PROJECT_SOURCE_DIR}/tool/completion/qdf.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME qdf
-    COMPONENT tool OPTIONAL)
+    COMPONENT tool)
 endif()
