@@ -7,6 +7,7 @@
 
 #include "qdf/support/hashindex.h"
 #include "qdf/support/text.h"
+#include "qdf/support/xmldeclaration.h"
 
 namespace {
 
@@ -246,7 +247,12 @@ class Scanner {
     } else if (!Is(*at_, kSpace) && !StartsWith("?>")) {
       Fail("a name holds a wrong character");
     } else {
-      SkipPast("?>", "this processing instruction is not closed");
+      const char* content = at_;
+      if (!SkipPast("?>", "this processing instruction is not closed")) return;
+      const std::string_view inside(content, static_cast<std::size_t>(at_ - content) - 2);
+      if (target == "xml" && !IsXMLDeclaration(inside)) {
+        Fail("the XML declaration is malformed", begin);
+      }
     }
   }
 

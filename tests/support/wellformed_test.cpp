@@ -23,7 +23,8 @@ constexpr std::string_view kDocuments =
     "\">\">]><a/>|<_a.-:9\xC3\xA4 b = '\"&lt;>' c=\"'\"/>|<a>]] > ]]&gt; &#x10FFFF;&#1;&#0065;</a>|"
     "<a><![CDATA[<&]]]]>--</a>|<a\n\tb\n=\n''/>|<a>\x7F\t\r\n</a>|<a><a><a></a></a><a></a></a>|"
     "<a b='' c='' d='' e='' f='' g='' h='' i='' j='' k=''><a b='' c='' d='' e='' f='' g='' h='' "
-    "i='' j='' k=''/></a>|<a b=''/><!--x--><?p?>";
+    "i='' j='' k=''/></a>|<a b=''/><!--x--><?p?>|<?xml version = '1.10'\tencoding='UTF-8' "
+    "standalone=\"no\"\n?><a/>|<?xml version='1.0' standalone='yes'?><a/>";
 constexpr std::string_view kRefused =
     // Roots, and what stands beside them.
     "| \n |<?xml version='1.0'?><!-- -->|<a/><b/>|x<a/>|<a/>\n x|<a/>&lt;|<a/><![CDATA[]]>|\0<a/>|"
@@ -42,7 +43,14 @@ constexpr std::string_view kRefused =
     "<a><!-- -- --></a>|<a><!-- --->\n</a>|<a><!-- </a>|<a><!-- \x02 "
     "--></a>|<a>]]></a>|<a>]]]></a>|"
     "<a>\n\x0B</a>|<a><![CDATA[ </a>|<a><![CDATA[\x1F]]></a>| <?xml version='1.0'?><a/>|"
-    "<a/><?xml version='1.0'?>|<?XML version='1.0'?><a/>|<? pi?><a/>|<?p$?><a/>|<a><?pi </a>"sv;
+    "<a/><?xml version='1.0'?>|<?XML version='1.0'?><a/>|<? pi?><a/>|<?p$?><a/>|<a><?pi </a>|"
+    // Declarations.
+    "<?xml?><a/>|<?xml encoding='x'?><a/>|<?xml version=1.0?><a/>|<?xml version='1.'?><a/>|"
+    "<?xml version='1.0 '?><a/>|<?xml version='2.0'?><a/>|<?xml version=\"1.0'?><a/>|"
+    "<?xml version='1.0'encoding='x'?><a/>|<?xml version='1.0' encoding=''?><a/>|"
+    "<?xml version='1.0' encoding='8x'?><a/>|<?xml version='1.0' encoding='a b'?><a/>|"
+    "<?xml version='1.0' standalone='YES'?><a/>|<?xml version='1.0' standalone='no' encoding='x'?>"
+    "<a/>|<?xml version='1.0' x?><a/>"sv;
 
 TEST(WellFormed, TellsDocumentsFromWhatIsNone) {
   for (const std::string_view texts : {kDocuments, kRefused}) {
