@@ -7,6 +7,7 @@
 #include "qdf/control/nametable.h"
 #include "qdf/control/readers.h"
 #include "qdf/definition/records.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 

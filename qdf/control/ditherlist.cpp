@@ -7,6 +7,7 @@
 
 #include "qdf/control/levels.h"
 #include "qdf/definition/resolutionvalue.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/hashindex.h"
 #include "qdf/support/hashmix.h"
 #include "qdf/support/numbers.h"

@@ -29,13 +29,3 @@ inline ADWordArray ReadIDs(const AXMLTree& tree, const AXMLTreeNode& element, co
 inline int ReadDefault(const AXMLTree& tree, const AXMLTreeNode& element, const char* attribute) {
   return ReadInt(tree.attributeText(element, attribute));
 }
-
-// Calls `read` for each child element of that name, in order.
-template <class Read>
-void ForEachChild(const AXMLTree& tree, const AXMLTreeNode& parent, const char* name, Read read) {
-  AXMLTreeNode child;
-  if (tree.getChild(name, parent, child) == 0) return;
-  do {
-    read(child);
-  } while (tree.getNext(name, child) != 0);
-}

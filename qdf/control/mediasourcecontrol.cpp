@@ -4,6 +4,7 @@
 #include "qdf/control/levels.h"
 #include "qdf/control/readers.h"
 #include "qdf/definition/records.h"
+#include "qdf/support/foreach.h"
 
 namespace {
 

@@ -8,15 +8,15 @@
 #include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/derivecontroltree.h"
 #include "qdf/hpimport/derivelists.h"
-#include "qdf/hpimport/records.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/ownership.h"
 
 namespace {
 
 template <class Record>
 void AppendCopies(APtrArray& list, const APtrArray& records) {
-  ForEach<Record>(records,
-                  [&](const Record& record) { AddOwned(list, std::make_unique<Record>(record)); });
+  ForEachRecord<Record>(
+      records, [&](const Record& record) { AddOwned(list, std::make_unique<Record>(record)); });
 }
 
 template <std::size_t N>

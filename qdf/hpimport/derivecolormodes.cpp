@@ -7,7 +7,8 @@
 #include <string_view>
 #include <utility>
 
-#include "qdf/hpimport/records.h"
+#include "qdf/definition/records.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/ownership.h"
 #include "qdf/support/text.h"
 
@@ -73,7 +74,7 @@ std::unique_ptr<ColorModeInfo> MakeGrayMode(const HPResourceInfo& resource) {
 class ModeList {
  public:
   explicit ModeList(APtrArray& list) : list_(list) {
-    ForEach<ColorModeInfo>(list, [&](const ColorModeInfo& mode) {
+    ForEachRecord<ColorModeInfo>(list, [&](const ColorModeInfo& mode) {
       if (mode.Colorants == nullptr) return;
       known_.insert({FieldText(mode.InternalName), mode.Colorants[0].Colorant.ColorDepth});
     });
@@ -106,7 +107,7 @@ bool HasCyanOfDepth(const ColorModeInfo& mode, int depth) {
 int DeriveColorModeList(APtrArray& resources, APtrArray& colorModeList) {
   if (resources.GetSize() == 0) return 0;
   ModeList modes(colorModeList);
-  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+  ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
     const InkLayout* layout = FindLayout(resource.InputFormat);
     if (layout == nullptr) return;
     modes.Add(layout->modeName, resource.CColorDepth,
@@ -120,7 +121,7 @@ void CollectColorModeIDs(const HPResourceInfo& resource, const APtrArray& colorM
                          ADWordArray& ids) {
   const InkLayout* layout = FindLayout(resource.InputFormat);
   if (layout == nullptr) return;
-  ForEach<ColorModeInfo>(colorModeList, [&](const ColorModeInfo& mode) {
+  ForEachRecord<ColorModeInfo>(colorModeList, [&](const ColorModeInfo& mode) {
     if (mode.Colorants == nullptr) return;
     const std::string_view name = FieldText(mode.InternalName);
     const bool isColor = name == layout->modeName && HasCyanOfDepth(mode, resource.CColorDepth);

@@ -14,6 +14,7 @@
 #include "qdf/hpimport/growingtree.h"
 #include "qdf/hpimport/hpresource.h"
 #include "qdf/hpimport/records.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 
@@ -41,13 +42,13 @@ class IDTables {
   IDTables(const APtrArray& mediaList, const APtrArray& printModeList,
            const APtrArray& resolutionList, const APtrArray& colorModeList)
       : colorModeList_(colorModeList) {
-    ForEach<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
+    ForEachRecord<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
       media_.Add(std::string(FieldText(media.InternalName)), media.ID);
     });
-    ForEach<PrintModeInfo>(printModeList, [&](const PrintModeInfo& printMode) {
+    ForEachRecord<PrintModeInfo>(printModeList, [&](const PrintModeInfo& printMode) {
       printModes_.Add(std::string(FieldText(printMode.DisplayName)), printMode.ID);
     });
-    ForEach<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
+    ForEachRecord<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
       const std::string key =
           ResolutionKey(FieldText(record.DisplayName), record.XResolution, record.YResolution);
       if (!key.empty()) resolutions_.Add(key, record.ID);
@@ -161,7 +162,7 @@ int FindIDByDisplayName(AString name, APtrArray& list) {
 
 void CollectMediaIDs(AString name, APtrArray& mediaList, ADWordArray& ids) {
   const std::string_view wanted = FieldPart(name);
-  ForEach<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
+  ForEachRecord<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
     if (FieldText(media.InternalName) == wanted) ids.Add(AsWord(media.ID));
   });
 }
@@ -177,7 +178,7 @@ int DeriveControlTree(APtrArray& resources, APtrArray& inkList, APtrArray& media
   CQDFNode& ink = AddInkNode(*root, static_cast<InkTypeInfo*>(inkList.GetAt(0))->ID,
                              FindIDByDisplayName("HP Proofing Gloss", mediaList));
   GrowingTree tree;
-  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+  ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
     CQDFNode& media = tree.FindOrAddChild(ink, ids.Media(resource));
     media.Default = defaultPrintMode;
     CQDFNode& printMode = tree.FindOrAddChild(media, ids.PrintModes(resource));

@@ -11,6 +11,7 @@
 
 #include "qdf/hpimport/hpresource.h"
 #include "qdf/hpimport/records.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/ownership.h"
 #include "qdf/support/text.h"
 
@@ -27,7 +28,7 @@ int HoldsAny(const APtrArray& list) { return list.GetSize() > 0 ? 1 : 0; }
 Media CollectMedia(const APtrArray& resources) {
   Media media;
   std::unordered_set<std::string> known;
-  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+  ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
     const std::string_view internalName = FieldPart(resource.MediaName);
     for (int i = 0; i < resource.DisplayNames.GetSize(); ++i) {
       const std::string_view name = FieldPart(resource.DisplayNames.ElementAt(i));
@@ -61,7 +62,7 @@ class MediaCounters {
 
 void KeepOldIDs(const Media& media, const APtrArray& oldMedia, MediaCounters& counters) {
   std::unordered_map<std::string, int> oldIDs;
-  ForEach<MediaTypeInfo>(oldMedia, [&](const MediaTypeInfo& old) {
+  ForEachRecord<MediaTypeInfo>(oldMedia, [&](const MediaTypeInfo& old) {
     oldIDs.try_emplace(KeyOf(old), old.ID);  // the first one stays
   });
   for (const auto& record : media) {
@@ -102,7 +103,7 @@ void InsertByID(Media media, APtrArray& list) {
 PrintModes CollectPrintModes(const APtrArray& resources) {
   PrintModes printModes;
   std::unordered_set<std::string> known;
-  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+  ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
     const std::string_view quality = FieldPart(resource.QualityName);
     const std::string_view name = FieldPart(resource.PrintQuality);
     if (!known.insert(PrintModeKey(quality, name)).second) return;
@@ -148,12 +149,12 @@ int DerivePrintModeList(APtrArray& resources, APtrArray& printModeList) {
 int DeriveResolutionList(APtrArray& resources, APtrArray& resolutionList) {
   if (resources.GetSize() == 0) return 0;
   std::unordered_set<std::string> known;
-  ForEach<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
+  ForEachRecord<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
     known.insert(
         ResolutionKey(FieldText(record.DisplayName), record.XResolution, record.YResolution));
   });
   int id = 1;
-  ForEach<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
+  ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
     const std::string_view name = FieldPart(resource.DisplayResolution);
     const std::string key = ResolutionKey(name, resource.InputHRes, resource.InputVRes);
     if (!key.empty() && !known.insert(key).second) return;

@@ -1,21 +1,13 @@
 #pragma once
 
-// How the derivation goes through arrays of records and finds a record again. Names count with
+// How the derivation finds a record again. Names count with
 // their first 256 characters, as many as the fields of a record hold.
 
 #include <string>
 #include <string_view>
 
 #include "qdf/definition/records.h"
-#include "qdf/support/aarrays.h"
 #include "qdf/support/astring.h"
-
-// Calls `visit` with each record of an array of them, in order.
-template <class Record, class Visit>
-void ForEach(const APtrArray& records, Visit visit) {
-  const int count = records.GetSize();
-  for (int i = 0; i < count; ++i) visit(*static_cast<const Record*>(records.GetAt(i)));
-}
 
 // As much of a text as a name field holds.
 std::string_view FieldPart(const AString& text);

@@ -4,8 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "qdf/control/levels.h"
-#include "qdf/support/descriptor.h"
+#include "qdf/support/foreach.h"
 #include "qdf/support/numbers.h"
 #include "qdf/support/ownership.h"
 
