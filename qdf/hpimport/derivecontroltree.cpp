@@ -3,17 +3,18 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <deque>
 #include <map>
 #include <string>
 #include <string_view>
 #include <tuple>
-#include <unordered_map>
 
 #include "qdf/control/nametable.h"
+#include "qdf/definition/records.h"
 #include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/growingtree.h"
 #include "qdf/hpimport/hpresource.h"
-#include "qdf/hpimport/records.h"
+#include "qdf/hpimport/recordkeys.h"
 #include "qdf/support/foreach.h"
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
@@ -23,16 +24,22 @@ namespace {
 std::uint32_t AsWord(int id) { return static_cast<std::uint32_t>(id); }
 
 // The ids of all records of a list that have one key, in list order.
+template <class Key>
 class IDsByKey {
  public:
-  void Add(const std::string& key, int id) { ids_[key].Add(AsWord(id)); }
-  ADWordArray& Of(const std::string& key) {
-    const auto known = ids_.find(key);
-    return known != ids_.end() ? known->second : none_;
+  void Add(const Key& key, int id) {
+    const auto place = keys_.FindOrAdd(key);
+    if (place.isNew) ids_.emplace_back();
+    ids_[static_cast<std::size_t>(place.number)].Add(AsWord(id));
+  }
+  ADWordArray& Of(const Key& key) {
+    const int number = keys_.Find(key);
+    return number >= 0 ? ids_[static_cast<std::size_t>(number)] : none_;
   }
 
  private:
-  std::unordered_map<std::string, ADWordArray> ids_;
+  KeyIndex<Key> keys_;
+  std::deque<ADWordArray> ids_;
   ADWordArray none_;
 };
 
@@ -43,27 +50,26 @@ class IDTables {
            const APtrArray& resolutionList, const APtrArray& colorModeList)
       : colorModeList_(colorModeList) {
     ForEachRecord<MediaTypeInfo>(mediaList, [&](const MediaTypeInfo& media) {
-      media_.Add(std::string(FieldText(media.InternalName)), media.ID);
+      media_.Add({FieldText(media.InternalName)}, media.ID);
     });
     ForEachRecord<PrintModeInfo>(printModeList, [&](const PrintModeInfo& printMode) {
-      printModes_.Add(std::string(FieldText(printMode.DisplayName)), printMode.ID);
+      printModes_.Add({FieldText(printMode.DisplayName)}, printMode.ID);
     });
     ForEachRecord<ResolutionInfo>(resolutionList, [&](const ResolutionInfo& record) {
-      const std::string key =
-          ResolutionKey(FieldText(record.DisplayName), record.XResolution, record.YResolution);
-      if (!key.empty()) resolutions_.Add(key, record.ID);
+      resolutions_.Add({FieldText(record.DisplayName), record.XResolution, record.YResolution},
+                       record.ID);
     });
   }
 
   ADWordArray& Media(const HPResourceInfo& resource) {
-    return media_.Of(std::string(FieldPart(resource.MediaName)));
+    return media_.Of({FieldPart(resource.MediaName)});
   }
   ADWordArray& PrintModes(const HPResourceInfo& resource) {
-    return printModes_.Of(std::string(FieldPart(resource.PrintQuality)));
+    return printModes_.Of({FieldPart(resource.PrintQuality)});
   }
   ADWordArray& Resolutions(const HPResourceInfo& resource) {
-    return resolutions_.Of(ResolutionKey(FieldPart(resource.DisplayResolution), resource.InputHRes,
-                                         resource.InputVRes));
+    return resolutions_.Of(
+        {FieldPart(resource.DisplayResolution), resource.InputHRes, resource.InputVRes});
   }
   ADWordArray& ColorModes(const HPResourceInfo& resource) {
     const auto [known, isNew] =
@@ -74,9 +80,9 @@ class IDTables {
   }
 
  private:
-  IDsByKey media_;
-  IDsByKey printModes_;
-  IDsByKey resolutions_;
+  IDsByKey<NameKey> media_;
+  IDsByKey<NameKey> printModes_;
+  IDsByKey<ResolutionKey> resolutions_;
   const APtrArray& colorModeList_;
   // By input format and both depths, of which there are few.
   std::map<std::tuple<std::string, int, int>, ADWordArray> colorModes_;

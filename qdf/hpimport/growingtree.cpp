@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
+#include "qdf/support/hashmix.h"
+
 namespace {
 
 // A look at so many ids costs no more than to remember the set.
 constexpr int kFewIDs = 8;
 
 std::uint32_t HashOf(const void* address) {
-  constexpr std::uintptr_t kOdd = 0x9E3779B97F4A7C15U;
-  return static_cast<std::uint32_t>((reinterpret_cast<std::uintptr_t>(address) * kOdd) >> 32U);
+  return static_cast<std::uint32_t>(MixHash(reinterpret_cast<std::uintptr_t>(address)));
 }
 
 }  // namespace
@@ -31,15 +32,17 @@ int GrowingTree::FirstWithAny(const CQDFNode& parent, const ADWordArray& ids) {
   return first;
 }
 
-void GrowingTree::SetHolder(const CQDFNode& parent, std::uint32_t id, int child) {
+bool GrowingTree::SetHolder(const CQDFNode& parent, std::uint32_t id, int child) {
   Holder* holder = HolderOf(parent, id);
   if (holder == nullptr) {
     holderIndex_.Add(HashOf(&parent) + id, static_cast<int>(holders_.size()));
     holders_.push_back({&parent, id, child});
-  } else if (holder->child != child) {
-    holder->child = child;
-    ++moves_;
+    return true;
   }
+  if (holder->child == child) return false;
+  holder->child = child;
+  ++moves_;
+  return true;
 }
 
 GrowingTree::Found* GrowingTree::FormerlyFound(const CQDFNode& parent, const ADWordArray& ids) {
@@ -70,10 +73,7 @@ CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
   CQDFNode& node = isNew ? *AddChildNode(parent, ids) : *ChildAt(parent, child);
   // An id stands in the child exactly when the child is its holder, so merging needs no search.
   for (const std::uint32_t id : ids) {
-    const Holder* holder = HolderOf(parent, id);
-    if (holder != nullptr && holder->child == child) continue;
-    if (!isNew) node.IDs.Add(id);
-    SetHolder(parent, id, child);
+    if (SetHolder(parent, id, child) && !isNew) node.IDs.Add(id);
   }
   if (isLarge) Remember(parent, ids, child);
   return node;

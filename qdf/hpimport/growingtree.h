@@ -34,7 +34,8 @@ class GrowingTree {
   void Remember(const CQDFNode& parent, const ADWordArray& ids, int child);
   Holder* HolderOf(const CQDFNode& parent, std::uint32_t id);
   int FirstWithAny(const CQDFNode& parent, const ADWordArray& ids);
-  void SetHolder(const CQDFNode& parent, std::uint32_t id, int child);
+  // False when the child is its holder already.
+  bool SetHolder(const CQDFNode& parent, std::uint32_t id, int child);
 
   std::vector<Holder> holders_;
   HashIndex holderIndex_;

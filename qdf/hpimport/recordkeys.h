@@ -1,0 +1,84 @@
+#pragma once
+
+// How the derivation finds a record again: by a key, which is equal for records that count as the
+// same one. Keys hold no texts of their own, they point into records. Names count with their first
+// 256 characters, as many as the fields of a record hold.
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "qdf/support/astring.h"
+#include "qdf/support/hashindex.h"
+
+// As much of a text as a name field holds.
+std::string_view FieldPart(const AString& text);
+
+struct NameKey {
+  std::string_view name;
+
+  bool operator==(const NameKey&) const = default;
+  std::uint32_t Hash() const;
+};
+
+struct MediaKey {
+  std::string_view internalName;
+  std::string_view unlocalizedName;
+
+  bool operator==(const MediaKey&) const = default;
+  std::uint32_t Hash() const;
+};
+
+// The quality's name counts without its case.
+struct PrintModeKey {
+  std::string_view internalName;
+  std::string_view displayName;
+
+  bool operator==(const PrintModeKey& other) const;
+  std::uint32_t Hash() const;
+};
+
+// Two that aren't numbers are never equal.
+struct ResolutionKey {
+  std::string_view displayName;
+  double x;
+  double y;
+
+  bool operator==(const ResolutionKey&) const = default;
+  std::uint32_t Hash() const;
+};
+
+// Finds keys without walking them. They are numbered from 0 by their addition.
+template <class Key>
+class KeyIndex {
+ public:
+  // The number of the equal key, -1 when there is none.
+  int Find(const Key& key) const { return Find(key, key.Hash()); }
+
+  struct Place {
+    int number;
+    bool isNew;
+  };
+  // That of the equal key or, when there is none, of this one.
+  Place FindOrAdd(const Key& key) {
+    const std::uint32_t hash = key.Hash();
+    const int known = Find(key, hash);
+    if (known >= 0) return {known, false};
+    const int added = static_cast<int>(keys_.size());
+    keys_.push_back(key);
+    // What equals nothing can't be found, and many of the kind would lie in each other's way.
+    if (IsEqual(key, key)) index_.Add(hash, added);
+    return {added, true};
+  }
+
+ private:
+  static bool IsEqual(const Key& a, const Key& b) { return a == b; }
+
+  int Find(const Key& key, std::uint32_t hash) const {
+    return index_.Find(hash,
+                       [&](int i) { return IsEqual(keys_[static_cast<std::size_t>(i)], key); });
+  }
+
+  std::vector<Key> keys_;
+  HashIndex index_;
+};
