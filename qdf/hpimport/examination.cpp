@@ -4,6 +4,7 @@
 #include "qdf/hpimport/resourcename.h"
 #include "qdf/hpimport/sweepsteps.h"
 #include "qdf/support/directorysearch.h"
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/nothrow.h"
 #include "qdf/support/numbers.h"
 #include "qdf/support/text.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "qdf/support/descriptor.h"
 #include "qdf/support/filebytes.h"
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/nothrow.h"
 #include "qdf/support/savebytes.h"
 #include "qdf/support/text.h"

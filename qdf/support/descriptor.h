@@ -4,8 +4,6 @@
 
 #include <unistd.h>
 
-#include <cerrno>
-#include <new>
 #include <utility>
 
 class Descriptor {
@@ -31,14 +29,3 @@ class Descriptor {
  private:
   int number_ = -1;
 };
-
-// To be called when an operation on a file has failed, with errno as it left it. Whether the
-// process lacked means, such as memory or descriptors, or the path was too long: that says nothing
-// of the file.
-inline bool LackedMeans() {
-  return errno == ENOMEM || errno == EMFILE || errno == ENFILE || errno == ENAMETOOLONG;
-}
-
-inline void ThrowIfWithoutMeans() {
-  if (LackedMeans()) throw std::bad_alloc();
-}

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <memory>
 
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/text.h"
 
 namespace {
