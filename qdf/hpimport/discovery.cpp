@@ -12,10 +12,10 @@ namespace {
 AString Text(std::string_view text) { return AString(std::string(text).c_str()); }
 
 void LoadIfResource(const std::string& path, APtrArray& records) {
-  ResourceName name;
-  if (!IsResourcePath(path, name)) return;
+  const auto name = FindResourceName(path);
+  if (!name) return;
   AFilePath file(path.c_str());
-  LoadHPResourceFile(file, records, Text(name.media), Text(name.quality), Text(name.file));
+  LoadHPResourceFile(file, records, Text(name->media), Text(name->quality), Text(name->file));
 }
 
 }  // namespace

@@ -48,8 +48,7 @@ FolderVerdict ExamineResource(const AString& file) {
 }
 
 bool IsResource(const DirectoryEntry& entry, const AString& path) {
-  ResourceName name;
-  if (entry.kind != EntryKind::File || !IsResourcePath(View(path), name)) return false;
+  if (entry.kind != EntryKind::File || !FindResourceName(View(path))) return false;
   const bool exists = AFilePath(path).exists() != 0;
   if (!exists) ThrowIfWithoutMeans();
   return exists;

@@ -2,6 +2,7 @@
 
 // The test by which a resource file is known, for discovery and sweep alike.
 
+#include <optional>
 #include <string_view>
 
 // The parts of a resource file's path; they point into it.
@@ -11,5 +12,5 @@ struct ResourceName {
   std::string_view file;
 };
 
-// Whether the path has the form M/Q/M_Q.xml at its end, ignoring case. Sets the name when it has.
-bool IsResourcePath(std::string_view path, ResourceName& name);
+// None unless the path has the form M/Q/M_Q.xml at its end, ignoring case.
+std::optional<ResourceName> FindResourceName(std::string_view path);

@@ -1,29 +1,18 @@
 #include "qdf/hpimport/sweep.h"
 
 #include <string>
-#include <string_view>
-#include <utility>
 
 #include "qdf/hpimport/sweepsteps.h"
 #include "qdf/support/folderwalk.h"
 #include "qdf/support/nothrow.h"
-
-namespace {
-
-// The parent and the name of a path without trailing separators.
-std::pair<std::string, std::string> Split(std::string_view path) {
-  while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
-  const std::size_t slash = path.rfind('/');
-  if (slash == std::string_view::npos) return {".", std::string(path)};
-  return {std::string(path.substr(0, slash + 1)), std::string(path.substr(slash + 1))};
-}
-
-}  // namespace
+#include "qdf/support/splitpath.h"
 
 void RemoveFolderTree(const char* folder) {
   OrOnNoMemory(0, [&] {
-    const auto [parentPath, name] = Split(folder);
-    const Descriptor parent = OpenFolder(parentPath.c_str());
+    const SplitPath path = SplitLast(folder);
+    const std::string name(path.last);
+    const Descriptor parent =
+        OpenFolder(path.parent.empty() ? "." : std::string(path.parent).c_str());
     Descriptor top = OpenSubfolder(parent, name.c_str());
     if (!top.IsOpen()) return 0;
     FolderWalk walk(std::move(top), folder);

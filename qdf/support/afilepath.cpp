@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "qdf/support/splitpath.h"
 #include "qdf/support/text.h"
 
 namespace {
@@ -42,9 +43,5 @@ int AFilePath::isDirectory() const {
 }
 
 void AFilePath::getFileName(AString& name) const {
-  const std::string_view path = WithoutTrailingSlashes(View(path_));
-  const std::size_t slash = path.rfind('/');
-  // A path of separators only has no last component.
-  const std::string_view last = slash == std::string_view::npos ? path : path.substr(slash + 1);
-  name = std::string(last).c_str();
+  name = std::string(SplitLast(View(path_)).last).c_str();
 }

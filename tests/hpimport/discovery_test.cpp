@@ -35,13 +35,11 @@ TEST(ResourceName, IsMadeOfTheTwoFoldersAboveTheFile) {
       {"", ""},
   };
   for (const Row& row : rows) {
-    ResourceName name;
-    const bool isResource = IsResourcePath(row.path, name);
+    const auto name = FindResourceName(row.path);
     const std::string found =
-        isResource
-            ? Join({std::string(name.media), std::string(name.quality), std::string(name.file)},
-                   "|")
-            : "";
+        name ? Join({std::string(name->media), std::string(name->quality), std::string(name->file)},
+                    "|")
+             : "";
     EXPECT_EQ(found, row.name) << row.path;
   }
 }
