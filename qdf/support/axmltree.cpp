@@ -15,8 +15,9 @@
 
 // The parser works inside `bytes`, and the nodes of `xml` point into them: they must outlive it.
 struct AXMLTree::Document {
-  // What is wrong with the file; no reason when it was loaded.
-  AXMLFault Load(const char* path);
+  // What is wrong with the file that `read` reads; no reason when it was loaded.
+  template <class Read>
+  AXMLFault Load(Read read);
 
   FileBytes bytes;
   pugi::xml_document xml;
@@ -97,8 +98,9 @@ AXMLTree::AXMLTree(const AString& rootName) : document_(std::make_unique<Documen
 
 AXMLTree::~AXMLTree() = default;
 
-AXMLFault AXMLTree::Document::Load(const char* path) {
-  const char* unreadable = ReadFileBytes(path, bytes);
+template <class Read>
+AXMLFault AXMLTree::Document::Load(Read read) {
+  const char* unreadable = read(bytes);
   if (unreadable != nullptr) return FileFault(unreadable, LackedMeans());
   const XMLFindings findings = ExamineXML(bytes.Text());
   if (findings.fault != nullptr) return FaultAt(bytes.Text(), findings.offset, findings.fault);
@@ -108,17 +110,26 @@ AXMLFault AXMLTree::Document::Load(const char* path) {
   xml.reset();
   if (result.status == pugi::status_out_of_memory) throw std::bad_alloc();
   // The parser has written over the text, so the line is counted in a fresh copy.
-  if (ReadFileBytes(path, bytes) != nullptr) bytes.size = 0;
+  if (read(bytes) != nullptr) bytes.size = 0;
   return FaultAt(bytes.Text(), static_cast<std::size_t>(result.offset), result.description());
 }
 
-int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
+template <class Read>
+int AXMLTree::loadBy(Read read) {
   removeAll(0);
   document_->fault = FileFault("out of memory", true);  // short enough to take none itself
   return OrOnNoMemory(0, [&] {
-    document_->fault = document_->Load(path);
+    document_->fault = document_->Load(read);
     return document_->fault.Reason.GetLength() == 0 ? 1 : 0;
   });
+}
+
+int AXMLTree::loadFromFile(AFilePath& path, int /*flag*/) {
+  return loadBy([&](FileBytes& bytes) { return ReadFileBytes(path, bytes); });
+}
+
+int AXMLTree::loadFromFolder(const Descriptor& folder, const char* name) {
+  return loadBy([&](FileBytes& bytes) { return ReadFileBytes(folder, name, bytes); });
 }
 
 const AXMLFault& AXMLTree::loadFault() const { return document_->fault; }

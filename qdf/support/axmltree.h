@@ -9,6 +9,8 @@
 #include "qdf/support/afilepath.h"
 #include "qdf/support/astring.h"
 
+class Descriptor;
+
 namespace pugi {
 struct xml_node_struct;
 }
@@ -52,6 +54,8 @@ class AXMLTree {
   // or there is no memory for it; the tree is then empty. The bytes of the document pass through as
   // they are: an encoding that it declares isn't looked at. The flag has no meaning.
   int loadFromFile(AFilePath& path, int flag);
+  // The same with a file in an open folder, however long its whole path is.
+  int loadFromFolder(const Descriptor& folder, const char* name);
 
   // What was wrong at the last load that gave 0.
   const AXMLFault& loadFault() const;
@@ -119,6 +123,10 @@ class AXMLTree {
     int index = 0;
   };
   Cursor& cursorAt(int depth) const;
+
+  // Loads by a procedure that reads the file's bytes and answers as ReadFileBytes does.
+  template <class Read>
+  int loadBy(Read read);
 
   // Of an addition: whether there was memory for it. Notes when there wasn't.
   bool stored(bool success);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 #include <vector>
@@ -67,6 +68,18 @@ TEST(StdioFile, RefusesWhatIsNoRegularFile) {
       file.Write("lost", 4);
     }
   }
+}
+
+// A hole takes no room on the disk, but it would take it in memory.
+TEST(StdioFile, RefusesATooLargeFileUnread) {
+  const TempFolder folder;
+  const std::string path = folder.Write("hole", "");
+  ASSERT_EQ(truncate(path.c_str(), off_t{1} << 31), 0);
+  AFilePath filePath(path.c_str());
+  AFileException exception;
+  AStdioFile file;
+  EXPECT_EQ(file.Open(filePath, AFile::kRead, &exception, AFile::kAnyFile), 0);
+  EXPECT_STREQ(exception.Reason, "it is too large");
 }
 
 TEST(StdioFile, EmptiesAFileWhenItIsOpenedForWriting) {
