@@ -34,7 +34,10 @@ bool FolderWalk::Leave() {
   const Level& level = levels_.back();
   const bool back = here_.IsOpen() && fstat(here_.Number(), &status) == 0 &&
                     status.st_dev == level.device && status.st_ino == level.inode;
-  if (!back) levels_.clear();
+  if (!back) {
+    lost_ = true;
+    levels_.clear();
+  }
   return back;
 }
 

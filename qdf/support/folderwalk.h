@@ -19,9 +19,13 @@ class FolderWalk {
   FolderWalk(Descriptor folder, std::string path);
 
   // Makes the next entry current, depth first and in the order of a search; a folder comes behind
-  // all that it holds. A folder that can't be searched comes like an empty one. False at the end,
-  // and also when the way back to a parent is gone.
+  // all that it holds. A folder that can't be searched comes like an empty one. False at the end
+  // and when the way is lost.
   bool Next();
+
+  // Whether the walk ended before its time: the way back from a folder to its parent is gone,
+  // because somebody has moved the folder.
+  bool HasLostItsWay() const { return lost_; }
 
   // The current entry, its whole path, and the open folder that it lies in.
   const DirectoryEntry& Entry() const;
@@ -43,4 +47,5 @@ class FolderWalk {
   Descriptor here_;
   std::string path_;
   std::vector<Level> levels_;
+  bool lost_ = false;
 };

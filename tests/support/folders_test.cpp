@@ -41,6 +41,7 @@ std::string Walked(const TempFolder& folder) {
     EXPECT_TRUE(walk.Path().ends_with(walk.Entry().name));
     paths.push_back(walk.Path().substr(top.size()));
   }
+  EXPECT_FALSE(walk.HasLostItsWay());
   return Join(paths, " ");
 }
 
@@ -110,6 +111,7 @@ TEST(Folders, ThatMoveWhileAWalkIsInsideEndIt) {
   fs::rename(folder.Path("a/b"), outside.Path("b"));
   EXPECT_FALSE(walk.Next());
   EXPECT_FALSE(walk.Next());
+  EXPECT_TRUE(walk.HasLostItsWay());
 }
 
 TEST(FileStatus, ComesBackExactly) {
