@@ -2,7 +2,8 @@
 
 #include <sys/stat.h>
 
-#include "qdf/hpimport/sweepsteps.h"
+#include "qdf/hpimport/removefolder.h"
+#include "qdf/hpimport/sweepverdict.h"
 #include "tool/command.h"
 #include "tool/files.h"
 #include "tool/printable.h"

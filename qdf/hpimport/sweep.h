@@ -15,7 +15,7 @@ extern "C" {
 // The folder itself, plain files in it and its subfolder output_icc, in any case, stay untouched.
 // Links are deleted like files, and nothing behind them is; a link is no resource file. What can't
 // be deleted stays, and so do the folders around it, while everything else goes. A folder that
-// can't be examined for lack of memory or descriptors is spared.
+// can't be examined for lack of memory or descriptors, or because its path is too long, is spared.
 APMQDF_EXPORT void PMCheckHPXMLVersion(AFilePath& folder);
 
 }  // extern "C"

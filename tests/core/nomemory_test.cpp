@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "qdf/hpimport/sweep.h"
-#include "qdf/hpimport/sweepsteps.h"
+#include "qdf/hpimport/sweepverdict.h"
 #include "qdf/hpimport/update.h"
 #include "qdf/localise/custommedia.h"
 #include "qdf/localise/localise.h"

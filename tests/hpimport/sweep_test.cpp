@@ -6,7 +6,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "qdf/hpimport/sweepsteps.h"
+#include "qdf/hpimport/removefolder.h"
+#include "qdf/hpimport/sweepverdict.h"
 #include "tests/children.h"
 #include "tests/hpimport/resources.h"
 

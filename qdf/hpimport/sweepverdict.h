@@ -1,6 +1,6 @@
 #pragma once
 
-// The steps of a sweep: what is wrong with a folder of HP resources, and its removal.
+// What a sweep finds in a folder of HP resources, and why it would delete a part of it.
 
 #include <vector>
 
@@ -36,8 +36,8 @@ struct MediaFolder {
 };
 
 // The media folders that a sweep of the folder examines, in the order of a search, not yet
-// examined. None when the folder can't be searched. A lack of memory or descriptors throws
-// bad_alloc.
+// examined. None when the folder can't be searched. A lack of memory or descriptors, or a path that
+// is too long, throws bad_alloc.
 std::vector<MediaFolder> FindMediaFolders(const AFilePath& folder);
 
 // The same with what a sweep finds in them. Changes nothing.
@@ -46,10 +46,6 @@ std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder);
 // Level 1 means a media folder, and level 2 a quality folder. Throws as well.
 FolderVerdict ExamineHPFolder(const AString& folder, int level);
 
-// 1 when the folder has a fault, else 0; 0 also when memory or descriptors run out, so that nothing
-// is deleted for the lack of them.
+// 1 when the folder has a fault, else 0; 0 also where the others throw, so that nothing is deleted
+// that nobody could look at.
 int CheckHPFolder(AString folder, int level);
-
-// Deletes a folder with all that it holds. A link to a folder is left alone, with what is behind
-// it. What can't be deleted stays, with the folders around it.
-void RemoveFolderTree(const char* folder);

@@ -1,8 +1,9 @@
+#include "qdf/hpimport/sweepverdict.h"
+
 #include <string_view>
 
 #include "qdf/hpimport/resourcefile.h"
 #include "qdf/hpimport/resourcename.h"
-#include "qdf/hpimport/sweepsteps.h"
 #include "qdf/support/directorysearch.h"
 #include "qdf/support/lackofmeans.h"
 #include "qdf/support/nothrow.h"
