@@ -1,7 +1,8 @@
 #pragma once
 
 // The colour modes of a document, derived from HPResourceInfo records: HP resources name an ink
-// layout and two depths, and from these come a colour mode and a grey mode beside it.
+// layout and two depths, and from these come a colour mode and a grey mode beside it. When memory
+// runs out, bad_alloc passes through, and what was appended stays.
 
 #include "qdf/hpimport/hpresource.h"
 #include "qdf/support/aarrays.h"

@@ -16,8 +16,8 @@
 #include "qdf/hpimport/hpresource.h"
 #include "qdf/hpimport/recordkeys.h"
 #include "qdf/support/foreach.h"
+#include "qdf/support/idset.h"
 #include "qdf/support/text.h"
-#include "qdf/support/uniqueids.h"
 
 namespace {
 
@@ -144,8 +144,8 @@ CQDFNode* FindOrAddChild(CQDFNode* parent, ADWordArray& ids) {
 }
 
 int IDArraysOverlap(const ADWordArray& a, const ADWordArray& b) {
-  ADWordArray own = a;
-  const UniqueIDs known(own);
+  IDSet known;
+  for (const std::uint32_t id : a) known.Add(id);
   return std::any_of(b.begin(), b.end(), [&](std::uint32_t id) { return known.Holds(id); }) ? 1 : 0;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 // The control tree of a document, derived from HPResourceInfo records: each resource stands for one
-// path, from its media down to its colour modes, with a profile and a dither for it.
+// path, from its media down to its colour modes, with a profile and a dither for it. When memory
+// runs out, bad_alloc passes through, and the tree and the names stay as far as they have grown.
 
 #include "qdf/core/qdfnode.h"
 #include "qdf/support/aarrays.h"

@@ -3,7 +3,7 @@
 // Media, print modes and resolutions of a document, derived from HPResourceInfo records. Each
 // operation appends records to a list, which owns them from then on; a display name becomes the
 // unlocalised name too. The result is 0 without resources, and else 1 exactly when the list holds a
-// record.
+// record. When memory runs out, bad_alloc passes through, and what was appended stays.
 
 #include "qdf/support/aarrays.h"
 
