@@ -1,7 +1,6 @@
 // qdf resources: the HP resource files in a folder tree.
 
-#include "qdf/hpimport/hpresource.h"
-#include "qdf/hpimport/resourcefile.h"
+#include "qdf/hpimport/discovery.h"
 #include "qdf/support/ownership.h"
 #include "tool/command.h"
 #include "tool/files.h"
@@ -34,7 +33,9 @@ Answer Resources(const Arguments& arguments) {
   const std::string& folder = arguments.Get("DIR");
   RequireFolder(folder);
   OwnedItems<HPResourceInfo> resources;
-  CollectHPResources(folder.c_str(), resources);
+  if (!CollectHPResources(folder.c_str(), resources)) {
+    throw Failure(kNoAnswer, folder + ": a folder in it was moved while it was searched");
+  }
   List rows;
   for (int i = 0; i < resources.GetSize(); ++i) {
     rows.emplace_back(MakeRow(*static_cast<const HPResourceInfo*>(resources.GetAt(i))));

@@ -36,6 +36,7 @@ struct FaultText {
 };
 
 constexpr FaultText kFaults[] = {
+    {UpdateFault::TreeChanged, "a folder was moved while the resources were searched"},
     {UpdateFault::NoResource,
      "no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, stands in the folder"},
     {UpdateFault::NoInk, "the previous document has no ink"},

@@ -33,8 +33,8 @@ extern "C" {
 // Appends an HPResourceInfo for each resource file in and below the folder, which the caller frees.
 // The order is the same on every file system: entries of a folder by their upper-cased names, a
 // subfolder with all that it holds at its place. Links are neither followed nor read; a folder or
-// file that can't be read is passed over. When memory or descriptors run out, the records until
-// then are all.
+// file that can't be read is passed over. When memory or descriptors run out, or somebody moves a
+// folder of the tree meanwhile, the records until then are all.
 APMQDF_EXPORT void PMGetHPRecursive(AString folder, APtrArray& records);
 
 }  // extern "C"

@@ -2,11 +2,15 @@
 
 #include <bit>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "qdf/support/foreach.h"
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/numbers.h"
 #include "qdf/support/ownership.h"
+#include "qdf/support/text.h"
 
 namespace {
 
@@ -31,6 +35,26 @@ void ReadChildren(const AXMLTree& tree, const AXMLTreeNode& root, HPResourceInfo
                [&](const AXMLTreeNode& child) { ReadHalftoning(tree, child, record); });
 }
 
+bool HasLoaded(const AXMLTree& tree, int loaded) {
+  if (loaded == 0 && tree.loadFault().LackedMeans) throw std::bad_alloc();
+  return loaded != 0;
+}
+
+AString Text(std::string_view text) { return AString(std::string(text).c_str()); }
+
+std::unique_ptr<HPResourceInfo> MakeRecord(std::string_view media, std::string_view quality,
+                                           std::string_view file) {
+  auto record = std::make_unique<HPResourceInfo>();
+  record->MediaName = Text(media);
+  record->QualityName = Text(quality);
+  record->FileName = Text(file);
+  return record;
+}
+
+void AddParsed(AXMLTree& tree, std::unique_ptr<HPResourceInfo> record, APtrArray& records) {
+  if (ParseHPResourceFile(&tree, record.get()) == 1) AddOwned(records, std::move(record));
+}
+
 }  // namespace
 
 int LevelsToDepth(int levels) {
@@ -53,18 +77,23 @@ int ParseHPResourceFile(AXMLTree* tree, HPResourceInfo* record) {
 }
 
 bool LoadResourceTree(AXMLTree& tree, AFilePath& path) {
-  const bool loaded = tree.loadFromFile(path, 1) != 0;
-  if (!loaded && tree.loadFault().LackedMeans) throw std::bad_alloc();
-  return loaded;
+  return HasLoaded(tree, tree.loadFromFile(path, 1));
 }
 
 void LoadHPResourceFile(AFilePath& path, APtrArray& records, AString mediaName, AString qualityName,
                         AString fileName) {
-  auto record = std::make_unique<HPResourceInfo>();
-  record->MediaName = std::move(mediaName);
-  record->QualityName = std::move(qualityName);
-  record->FileName = std::move(fileName);
+  auto record = MakeRecord(View(mediaName), View(qualityName), View(fileName));
   AXMLTree tree("RootElement");
-  if (path.exists() == 0 || !LoadResourceTree(tree, path)) return;
-  if (ParseHPResourceFile(&tree, record.get()) == 1) AddOwned(records, std::move(record));
+  if (path.exists() == 0) {
+    ThrowIfWithoutMeans();
+    return;
+  }
+  if (LoadResourceTree(tree, path)) AddParsed(tree, std::move(record), records);
+}
+
+void LoadHPResourceFile(const Descriptor& folder, APtrArray& records, const ResourceName& name) {
+  auto record = MakeRecord(name.media, name.quality, name.file);
+  AXMLTree tree("RootElement");
+  const int loaded = tree.loadFromFolder(folder, record->FileName);
+  if (HasLoaded(tree, loaded)) AddParsed(tree, std::move(record), records);
 }

@@ -3,11 +3,10 @@
 // One HP resource file becomes one record.
 
 #include "qdf/hpimport/hpresource.h"
+#include "qdf/hpimport/resourcename.h"
 #include "qdf/support/afilepath.h"
 #include "qdf/support/axmltree.h"
-
-// What PMGetHPRecursive does, but a lack of memory or descriptors throws bad_alloc.
-void CollectHPResources(const AString& folder, APtrArray& records);
+#include "qdf/support/descriptor.h"
 
 // Loads the file into the tree; false when it can't be read or isn't well-formed XML. A lack of
 // memory or descriptors throws bad_alloc, so that nobody takes a file for a bad one because of it.
@@ -17,6 +16,9 @@ bool LoadResourceTree(AXMLTree& tree, AFilePath& path);
 // it. Appends nothing when the file isn't there or LoadResourceTree fails.
 void LoadHPResourceFile(AFilePath& path, APtrArray& records, AString mediaName, AString qualityName,
                         AString fileName);
+
+// The same for a file in an open folder, however long its whole path is.
+void LoadHPResourceFile(const Descriptor& folder, APtrArray& records, const ResourceName& name);
 
 // Fills the record from a loaded file; its QualityName must be set, for "superbest" has a rule of
 // its own. Nothing is validated. 0 for a null tree, else 1.

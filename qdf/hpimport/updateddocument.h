@@ -10,6 +10,7 @@
 enum class UpdateFault {
   None,
   NoPreviousDocument,
+  TreeChanged,  // somebody moved a folder of the tree meanwhile
   NoResource,
   NoInk,        // in the previous document
   NoMedia,      // no resource has a display name, or no number is left for a new media

@@ -1,10 +1,14 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <limits>
 
+#include "qdf/hpimport/removefolder.h"
 #include "qdf/hpimport/resourcefile.h"
 #include "qdf/hpimport/resourcename.h"
+#include "qdf/support/directorysearch.h"
 #include "tests/hpimport/resources.h"
 
 namespace {
@@ -138,6 +142,24 @@ TEST(Discovery, FindsResourcesAtAnyDepthInTheOrderOfTheSearch) {
   }
   EXPECT_EQ(Found(folder.Path("missing")), "");
   EXPECT_EQ(Found(folder.Path("a.xml")), "");
+}
+
+// The path is longer than the system takes in one piece.
+TEST(Discovery, FindsResourcesAtEndlessPaths) {
+  const TempFolder folder;
+  const std::string resource = WriteResource(folder, "t", {});
+  const std::string name(250, 'x');
+  Descriptor deep = OpenFolder(folder.Path("t").c_str());
+  for (int i = 0; i < 20; ++i) {
+    ASSERT_EQ(mkdirat(deep.Number(), name.c_str(), 0755), 0);
+    deep = OpenSubfolder(deep, name.c_str());
+  }
+  fs::rename(folder.Path("t/Glossy"), folder.Path("Glossy"));
+  ASSERT_EQ(renameat(AT_FDCWD, folder.Path("Glossy").c_str(), deep.Number(), "Glossy"), 0);
+  EXPECT_EQ(Found(folder.Path()),
+            "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/Glossy_best.xml");
+  RemoveFolderTree(folder.Path("t").c_str());
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 TEST(Discovery, AppendsAndNeverReadsThroughALink) {

@@ -1,0 +1,60 @@
+#include "qdf/hpimport/updateddocument.h"
+
+#include <memory>
+#include <utility>
+
+#include "qdf/core/documentmembers.h"
+#include "qdf/hpimport/discovery.h"
+#include "qdf/support/nothrow.h"
+#include "qdf/support/ownership.h"
+
+namespace {
+
+int TakeOver(APMQDF& document, APMQDF& previous) {
+  DocumentMembers former(previous);
+  double limit[4];
+  double margin[4];
+  previous.GetMediaSizeLimits(limit[0], limit[1], limit[2], limit[3]);
+  previous.GetMinimumMargin(margin[0], margin[1], margin[2], margin[3]);
+  return document.InitiateAPMQDF(
+      former.ProductType, former.TranslationTable, former.CustomMediaFile, limit[0], limit[1],
+      limit[2], limit[3], margin[0], margin[1], margin[2], margin[3], former.MediaSourceList,
+      former.MediaSizeList, former.MarginInfoList, previous.GetMediaSourceTreeRoot());
+}
+
+// Why a derivation has failed: the first list that it could not fill tells, unless memory ran out.
+UpdateFault FaultOf(APMQDF& document) {
+  const DocumentMembers derived(document);
+  if (derived.LackedMemory) return UpdateFault::NoMemory;
+  if (derived.InkList.GetSize() == 0) return UpdateFault::NoInk;
+  if (derived.MediaList.GetSize() == 0) return UpdateFault::NoMedia;
+  if (derived.PrintModeList.GetSize() == 0) return UpdateFault::NoPrintMode;
+  return UpdateFault::NoColorMode;
+}
+
+UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
+  OwnedItems<HPResourceInfo> resources;
+  if (!CollectHPResources(resourceFolder.GetFullPath(), resources)) {
+    return {nullptr, UpdateFault::TreeChanged};
+  }
+  if (resources.GetSize() == 0) return {nullptr, UpdateFault::NoResource};
+  auto document = std::make_unique<APMQDF>();
+  if (TakeOver(*document, previous) == 0) return {nullptr, UpdateFault::NoMemory};
+  DocumentMembers former(previous);
+  if (document->LoadHPResourceInfo(resources, former.InkList, former.MediaList) == 0) {
+    return {nullptr, FaultOf(*document)};
+  }
+  return {std::move(document), UpdateFault::None};
+}
+
+}  // namespace
+
+UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder) {
+  if (previous == nullptr) return {nullptr, UpdateFault::NoPreviousDocument};
+  UpdatedDocument updated{nullptr, UpdateFault::NoMemory};
+  OrOnNoMemory(0, [&] {
+    updated = Derive(*previous, resourceFolder);
+    return 1;
+  });
+  return updated;
+}
