@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "qdf/hpimport/updateddocument.h"
@@ -166,6 +167,39 @@ TEST_F(Update, LeavesAReadOnlyFileAsReadOnlyAndAsOldAsItWas) {
   ReadFileStatus(kDocument, status);
   EXPECT_EQ(status.mode, 0460U);
   EXPECT_GT(status.modified.tv_sec, former.modified.tv_sec);
+}
+
+// Until it goes, this process can write no file beyond that size.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &former_);
+    const rlimit limit{bytes, former_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &former_);
+    signal(SIGXFSZ, formerAction_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit former_{};
+  void (*formerAction_)(int) = signal(SIGXFSZ, SIG_IGN);
+};
+
+// In this process, so that a leak checker sees them.
+TEST_F(Update, LeavesNothingBehindWhenItCantWrite) {
+  AddResource({});
+  fs::create_directories("folder/plot36.qdf");
+  UpdateFile("folder/plot36.qdf");
+  UpdateFile("missing/plot36.qdf");
+  EXPECT_TRUE(fs::is_empty("folder/plot36.qdf"));
+  EXPECT_FALSE(fs::exists("missing"));
+  const FileSizeLimit limit(100);
+  UpdateFile(kDocument);
+  EXPECT_EQ(ReadFile(kDocument), former_);
 }
 
 TEST(InitiateAPMQDF, TakesDeepCopies) {
