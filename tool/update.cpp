@@ -111,7 +111,7 @@ Answer Update(const Arguments& arguments) {
   const std::unique_ptr<APMQDF> derived = Derive(*previous.content, folder);
   const WrittenForm written = MakeWrittenForm(*derived, target);
   Object changes;
-  AddChanges(Comparison(*previous.content, *written.document), changes);
+  AddChanges(Comparison(*previous.content, *written.document), Shown::kOverview, changes);
 
   const std::optional<std::string> former = ReadIfThere(target);
   const bool isSame = former == written.bytes;

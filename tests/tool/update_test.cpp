@@ -94,14 +94,14 @@ Combinations
   Won:     4
 
 Groups of combinations lost (2)
-  Ink    Media  Print mode  Resolution  Colour mode  How many
-  every  Silk   draft       every       every               2
-  every  Film   every       every       every               6
+  Media  Print mode  How many
+  Silk   draft              2
+  Film   every              6
 
 Groups of combinations won (2)
-  Ink    Media  Print mode  Resolution  Colour mode  How many
-  every  Gloss  every       every       every               2
-  every  Matte  premium     every       every               2
+  Media  Print mode  How many
+  Gloss  every              2
+  Matte  premium            2
 
 Settings of combinations (3)
   Setting             Before      After    For          How many

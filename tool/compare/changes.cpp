@@ -10,6 +10,8 @@ namespace {
 
 enum Change { kKept, kRenumbered, kChanged, kNew, kGone, kChangeCount };
 
+using Counts = std::array<int, kChangeCount>;
+
 constexpr const char* kWords[kChangeCount] = {"kept", "renumbered", "changed", "new", "gone"};
 
 Change ChangeOf(const EntryPair& entry) {
@@ -19,17 +21,19 @@ Change ChangeOf(const EntryPair& entry) {
   return IDOf(*entry.before) == IDOf(*entry.after) ? kKept : kRenumbered;
 }
 
+constexpr std::size_t kMostRows = 20;
+
 // People see the beginning of a long list, and nothing of an empty one.
-void AddRows(const char* key, const char* label, List rows, List forPeople, Object& report) {
-  constexpr std::size_t kMost = 20;
-  const std::size_t left = forPeople.size() > kMost ? forPeople.size() - kMost : 0;
+void AddRows(const char* key, const char* label, List rows, List forPeople, std::size_t most,
+             Object& report) {
+  const std::size_t left = forPeople.size() > most ? forPeople.size() - most : 0;
   forPeople.resize(forPeople.size() - left);
   report.Add({key, forPeople.empty() ? nullptr : label, std::move(rows), std::move(forPeople)});
   if (left > 0) report.Add({nullptr, "Left out", std::to_string(left) + " more, see --json"});
 }
 
 void AddRows(const char* key, const char* label, const List& rows, Object& report) {
-  AddRows(key, label, rows, rows, report);
+  AddRows(key, label, rows, rows, kMostRows, report);
 }
 
 Value CellOf(const Object* row, const char* key) {
@@ -77,32 +81,61 @@ Object EntryRow(const EntryPair& entry) {
           {"id", "ID", id, entry.after != nullptr ? id : former},
           {"formerId", "Formerly", former, isRenumbered ? former : Value("")},
           {"displayName", "Display name", CellOf(row, "displayName")},
-          {"internalName", "Internal name", CellOf(row, "internalName")},
+          {"internalName", row->Find("internalName") != nullptr ? "Internal name" : nullptr,
+           CellOf(row, "internalName")},
           {"fields", "What changed", std::move(fields), FirstOf(entry.changes)}};
 }
 
-// All media are shown, since hosts keep their ids.
-void AddEntries(const ListComparison& list, Object& report) {
-  const bool isMedia = list.list == &kDocumentLists[kMedia];
+// All media are shown in an overview, and what matters most first otherwise.
+void AddEntries(const ListComparison& list, Shown shown, Object& report) {
+  const bool isOverview = shown == Shown::kOverview;
+  const bool isWhole = isOverview && list.list == &kDocumentLists[kMedia];
   List all;
-  List shown;
+  List changed[kChangeCount];
+  List forPeople;
   for (const EntryPair& entry : list.entries) {
+    const Change change = ChangeOf(entry);
     all.emplace_back(EntryRow(entry));
-    if (isMedia || ChangeOf(entry) != kKept) shown.push_back(all.back());
+    if (isWhole || change != kKept) changed[isOverview ? kKept : change].push_back(all.back());
   }
-  const char* label = shown.empty() ? nullptr : list.list->label;
-  report.Add({list.list->key, label, std::move(all), std::move(shown)});
+  for (int i = kChangeCount; i-- > 0;) {
+    forPeople.insert(forPeople.end(), changed[i].begin(), changed[i].end());
+  }
+  AddRows(list.list->key, list.list->label, std::move(all), std::move(forPeople),
+          isWhole ? list.entries.size() : kMostRows, report);
 }
 
-Object CountRow(const ListComparison& list) {
-  std::array<int, kChangeCount> counts{};
+Counts CountChanges(const ListComparison& list) {
+  Counts counts{};
   for (const EntryPair& entry : list.entries) ++counts.at(ChangeOf(entry));
+  return counts;
+}
+
+Object CountRow(const ListComparison& list, const Counts& counts) {
   return {{"list", "List", list.list->key, list.list->label},
           {"kept", "Kept", counts[kKept]},
           {"renumbered", "Renumbered", counts[kRenumbered]},
           {"changed", "Changed", counts[kChanged]},
           {"new", "New", counts[kNew]},
           {"gone", "Gone", counts[kGone]}};
+}
+
+Difference AddLists(const Comparison& comparison, Shown shown, Object& report) {
+  List all;
+  List changed;
+  Difference difference = Difference::kNone;
+  for (const ListComparison& list : comparison.lists) {
+    const Counts counts = CountChanges(list);
+    all.emplace_back(CountRow(list, counts));
+    if (static_cast<std::size_t>(counts[kKept]) == list.entries.size()) continue;
+    changed.push_back(all.back());
+    const bool isSame = counts[kChanged] + counts[kNew] + counts[kGone] == 0;
+    difference = std::max(difference, isSame ? Difference::kIDs : Difference::kMeaning);
+  }
+  if (shown == Shown::kOverview) changed = all;
+  report.Add({"lists", changed.empty() ? nullptr : "Lists", std::move(all), std::move(changed)});
+  for (const ListComparison& list : comparison.lists) AddEntries(list, shown, report);
+  return difference;
 }
 
 Object OptionsForPrograms(const OptionSet& options, const std::vector<std::string>& names) {
@@ -119,9 +152,19 @@ Field OptionsField(const FoldedPaths& line, std::size_t at, const PathLevel& lev
   return {level.key, level.label, OptionsForPrograms(options, names), Tell(options, names)};
 }
 
-// By the names of the document that has the paths.
+bool IsToldAt(std::size_t level, const std::vector<FoldedPaths>& lines) {
+  return std::any_of(lines.begin(), lines.end(), [&](const FoldedPaths& line) {
+    return level < line.options.size() && line.options[level].kind != OptionSet::kEvery;
+  });
+}
+
+// By the names of the document that has the paths. People see no level where every line says
+// "every", unless there is no other.
 List PathRows(const std::vector<FoldedPaths>& lines, bool isFormer, const Comparison& comparison,
               const PathKind& kind) {
+  std::vector<bool> isTold;
+  for (std::size_t i = 0; i < kind.levels.size(); ++i) isTold.push_back(IsToldAt(i, lines));
+  if (std::find(isTold.begin(), isTold.end(), true) == isTold.end()) isTold.front() = true;
   List rows;
   for (const FoldedPaths& line : lines) {
     Object row;
@@ -129,6 +172,7 @@ List PathRows(const std::vector<FoldedPaths>& lines, bool isFormer, const Compar
       const PathLevel& level = kind.levels[i];
       row.Add(OptionsField(line, i, level,
                            isFormer ? comparison.FormerNamesOf(level) : comparison.NamesOf(level)));
+      if (!isTold[i]) row.fields.back().label = nullptr;
     }
     row.Add({"count", "How many", line.count});
     rows.emplace_back(std::move(row));
@@ -165,13 +209,14 @@ constexpr PathLabels kMediaSourceLabels = {"Media source combinations",
                                            "mediaSourceCombinationsWon",
                                            "mediaSourceSettings"};
 
-Object SettingRow(const TraitChange& change, const Comparison& comparison, const PathKind& kind) {
-  const std::string where = Tell(change.paths, comparison, kind);
-  Object row{{"setting", "Setting", change.trait->key, change.trait->label},
+Object SettingRow(const TraitChanges& setting, const TraitChange& change,
+                  const Comparison& comparison, const PathKind& kind) {
+  const bool isRoot = setting.level == 0;
+  Object row{{"setting", "Setting", setting.trait->key, setting.trait->label},
              {"before", "Before", change.before, Brief(change.before)},
              {"after", "After", change.after, Brief(change.after)},
-             {nullptr, "For", where.empty() && change.level > 0 ? "all of them" : where}};
-  for (std::size_t i = 0; i < change.level; ++i) {
+             {nullptr, "For", isRoot ? "" : Tell(change.paths, comparison, kind)}};
+  for (std::size_t i = 0; i < setting.level; ++i) {
     row.Add(OptionsField(change.paths, i, kind.levels[i], comparison.NamesOf(kind.levels[i])));
     row.fields.back().label = nullptr;
   }
@@ -179,50 +224,57 @@ Object SettingRow(const TraitChange& change, const Comparison& comparison, const
   return row;
 }
 
-// So many changes of one setting, when they are too many to tell each.
-Object ManySettingsRow(const Trait& trait, std::size_t changes, int paths) {
-  return {{nullptr, "Setting", trait.label},
-          {nullptr, "Before", std::to_string(changes) + " different changes"},
-          {nullptr, "After", ""},
-          {nullptr, "For", ""},
-          {nullptr, "How many", paths}};
+// Where a setting changed, when the changes are too many to tell each.
+void AddManySettingsRows(const TraitChanges& setting, const Comparison& comparison,
+                         const PathKind& kind, List& rows) {
+  constexpr std::size_t kMostPlaces = 5;
+  const std::string changes = std::to_string(setting.changes.size()) + " different changes";
+  const auto row = [&](const std::string& where, int count) {
+    return Object{{nullptr, "Setting", setting.trait->label},
+                  {nullptr, "Before", changes},
+                  {nullptr, "After", ""},
+                  {nullptr, "For", where},
+                  {nullptr, "How many", count}};
+  };
+  if (setting.paths.size() > kMostPlaces) {
+    const std::string places = std::to_string(setting.paths.size()) + " groups of them";
+    rows.emplace_back(row(places, CountOf(setting.paths)));
+    return;
+  }
+  for (const FoldedPaths& paths : setting.paths) {
+    rows.emplace_back(row(Tell(paths, comparison, kind), paths.count));
+  }
 }
 
-void AddSettings(const PathLabels& labels, const std::vector<TraitChange>& changes,
+void AddSettings(const PathLabels& labels, const std::vector<TraitChanges>& settings,
                  const Comparison& comparison, const PathKind& kind, Object& report) {
   constexpr std::size_t kMostOfOneSetting = 5;
   List all;
   List forPeople;
-  for (auto begin = changes.begin(); begin != changes.end();) {
-    const auto end = std::find_if(begin, changes.end(), [&](const TraitChange& change) {
-      return change.trait != begin->trait;
-    });
-    List rows;
-    int paths = 0;
-    for (auto change = begin; change != end; ++change) {
-      rows.emplace_back(SettingRow(*change, comparison, kind));
-      paths += change->paths.count;
+  for (const TraitChanges& setting : settings) {
+    const bool areMany = setting.changes.size() > kMostOfOneSetting;
+    for (const TraitChange& change : setting.changes) {
+      all.emplace_back(SettingRow(setting, change, comparison, kind));
+      if (!areMany) forPeople.push_back(all.back());
     }
-    all.insert(all.end(), rows.begin(), rows.end());
-    if (rows.size() > kMostOfOneSetting) {
-      rows = {ManySettingsRow(*begin->trait, rows.size(), paths)};
-    }
-    forPeople.insert(forPeople.end(), rows.begin(), rows.end());
-    begin = end;
+    if (areMany) AddManySettingsRows(setting, comparison, kind, forPeople);
   }
-  AddRows(labels.settingsKey, labels.settings, std::move(all), std::move(forPeople), report);
+  AddRows(labels.settingsKey, labels.settings, std::move(all), std::move(forPeople), kMostRows,
+          report);
 }
 
-void AddPaths(const Comparison& comparison, const PathComparison& paths, Object& report) {
+Difference AddPaths(const Comparison& comparison, const PathComparison& paths, Shown shown,
+                    Object& report) {
   const PathKind& kind = *paths.kind;
   const PathLabels& labels = kind.isJob ? kJobLabels : kMediaSourceLabels;
   if (!paths.root) {
     report.Add({labels.countsKey, labels.counts, {}, "too many to compare"});
-    return;
+    return Difference::kUnknown;
   }
   const PathChanges changes = FindPathChanges(paths);
-  const bool isSame = changes.lost.empty() && changes.won.empty() && changes.changed.empty();
-  report.Add({labels.countsKey, isSame && !kind.isJob ? nullptr : labels.counts,
+  const bool isOverview = kind.isJob && shown == Shown::kOverview;
+  const bool isShown = isOverview || !changes.lost.empty() || !changes.won.empty();
+  report.Add({labels.countsKey, isShown ? labels.counts : nullptr,
               Object{{"before", "Before", changes.before},
                      {"after", "After", changes.after},
                      {"kept", "Kept", changes.kept},
@@ -231,15 +283,17 @@ void AddPaths(const Comparison& comparison, const PathComparison& paths, Object&
   AddRows(labels.lostKey, labels.lost, PathRows(changes.lost, true, comparison, kind), report);
   AddRows(labels.wonKey, labels.won, PathRows(changes.won, false, comparison, kind), report);
   AddSettings(labels, changes.changed, comparison, kind, report);
+  return changes.Any() ? Difference::kMeaning : Difference::kNone;
 }
 
 }  // namespace
 
-void AddChanges(const Comparison& comparison, Object& report) {
+Difference AddChanges(const Comparison& comparison, Shown shown, Object& report) {
   AddRows("header", "Header", FieldRows(comparison.header), report);
-  List counts;
-  for (const ListComparison& list : comparison.lists) counts.emplace_back(CountRow(list));
-  report.Add({"lists", "Lists", std::move(counts)});
-  for (const ListComparison& list : comparison.lists) AddEntries(list, report);
-  for (const PathComparison& paths : comparison.paths) AddPaths(comparison, paths, report);
+  Difference difference = comparison.header.empty() ? Difference::kNone : Difference::kMeaning;
+  difference = std::max(difference, AddLists(comparison, shown, report));
+  for (const PathComparison& paths : comparison.paths) {
+    difference = std::max(difference, AddPaths(comparison, paths, shown, report));
+  }
+  return difference;
 }

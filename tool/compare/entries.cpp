@@ -147,7 +147,8 @@ std::vector<FieldChange> CompareFields(const Object& before, const Object& after
   for (const Field& field : before.fields) {
     const std::string_view key = field.key;
     const Value* other = after.Find(key);
-    const bool isSeen = field.label != nullptr && key != "id" && other != nullptr;
+    const bool isMeant = key != "id" && key != "unlocalizedName";
+    const bool isSeen = isMeant && field.label != nullptr && other != nullptr;
     if (!isSeen || field.value == *other) continue;
     const List* parts = AsList(field.value);
     if (parts != nullptr && (AsRows(field.value) != nullptr || AsRows(*other) != nullptr)) {

@@ -33,7 +33,8 @@ struct EntryPair {
 std::vector<EntryPair> PairEntries(const List& before, const List& after);
 
 // The fields that differ, of those that people see. An id isn't looked at: it is no part of what an
-// entry means.
+// entry means. Nor is the unlocalized name, which of a document as it is loaded is the display
+// name.
 std::vector<FieldChange> CompareFields(const Object& before, const Object& after);
 
 // 0 for a row without an id.

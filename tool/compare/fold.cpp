@@ -19,6 +19,7 @@ struct Group {
 };
 
 struct Folded {
+  bool exists = true;
   int shape = FoldQuestion::kNothing;
   std::vector<int> counts{};  // for each line that the shape gives
 };
@@ -63,18 +64,20 @@ class Folder {
   Folded Fold(const PathPair& path, std::size_t level) {
     const int label = question_.label(path, level);
     if (label == FoldQuestion::kNothing) return {};
-    if (label != FoldQuestion::kLookBelow) return {label, {question_.count(path)}};
+    if (label != FoldQuestion::kLookBelow) return {true, label, {question_.count(path)}};
     std::vector<int> all;
     std::map<int, Part> parts;  // by shape
     for (const PathPair& child : path.children) {
       if (!question_.exists(child)) continue;
-      all.push_back(child.entry);
       const Folded folded = Fold(child, level + 1);
+      if (!folded.exists) continue;
+      all.push_back(child.entry);
       if (folded.shape == FoldQuestion::kNothing) continue;
       Part& part = parts[folded.shape];
       part.entries.push_back(child.entry);
       AddTo(part.counts, folded.counts);
     }
+    if (all.empty()) return {.exists = false};
     return Join(parts, all);
   }
 
@@ -86,7 +89,7 @@ class Folder {
     }
     const Group& first = groups.begin()->first;
     if (first.options.kind == OptionSet::kEvery && first.shape > 0) {
-      return {first.shape, std::move(groups.begin()->second)};
+      return {true, first.shape, std::move(groups.begin()->second)};
     }
     std::vector<Group> shape;
     Folded folded;

@@ -31,7 +31,8 @@ struct FoldQuestion {
   static constexpr int kNothing = 0;     // no line is about the path
   static constexpr int kLookBelow = -1;  // the paths that it begins have labels
 
-  // Whether there is such a path: "every" means every one of those.
+  // Whether there is such a path: "every" means every one of those, except where a path is to be
+  // looked at below and nothing is there.
   std::function<bool(const PathPair& path)> exists;
   // What is to be told of a path of so many options: kNothing, kLookBelow or a positive number.
   std::function<int(const PathPair& path, std::size_t level)> label;

@@ -87,10 +87,7 @@ void AddPaths(const Comparison& comparison, const PathComparison& paths, Losses&
     return;
   }
   const PathChanges changes = FindPathChanges(paths);
-  const auto tell = [&](const FoldedPaths& line) {
-    const std::string told = Tell(line, comparison, kind);
-    return told.empty() ? "all of them" : told;
-  };
+  const auto tell = [&](const FoldedPaths& line) { return Tell(line, comparison, kind); };
   const auto add = [&](const std::vector<FoldedPaths>& lines, const char* what) {
     for (const FoldedPaths& line : lines) {
       losses.Add(kind.label + std::string(what), kCombinations, line.count, {tell(line), {}, {}});
@@ -98,10 +95,12 @@ void AddPaths(const Comparison& comparison, const PathComparison& paths, Losses&
   };
   add(changes.lost, ": gone");
   add(changes.won, ": new");
-  for (const TraitChange& change : changes.changed) {
-    const bool isRoot = change.level == 0;
-    losses.Add(change.trait->label, isRoot ? kDocument : kCombinations, change.paths.count,
-               {isRoot ? "" : tell(change.paths), change.before, change.after});
+  for (const TraitChanges& setting : changes.changed) {
+    const bool isRoot = setting.level == 0;
+    for (const TraitChange& change : setting.changes) {
+      losses.Add(setting.trait->label, isRoot ? kDocument : kCombinations, change.paths.count,
+                 {isRoot ? "" : tell(change.paths), change.before, change.after});
+    }
   }
 }
 

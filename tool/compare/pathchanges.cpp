@@ -10,18 +10,19 @@ namespace {
 // Either document.
 using Side = const PathNode* PathPair::*;
 
+bool Ends(const PathNode* path) { return path->children.empty(); }
+
 int CountWhole(const PathPair& path, Side side) {
   int count = 0;
   for (const PathPair& child : path.children) {
     if (child.*side != nullptr) count += CountWhole(child, side);
   }
-  const bool ends = (path.*side)->children.empty();
-  return ends && path.entry >= 0 ? 1 : count;
+  return Ends(path.*side) && path.entry >= 0 ? 1 : count;
 }
 
 int CountKept(const PathPair& path) {
   if (!path.IsInBoth()) return 0;
-  if (path.before->children.empty() && path.after->children.empty()) return path.entry >= 0 ? 1 : 0;
+  if (Ends(path.before) && Ends(path.after)) return path.entry >= 0 ? 1 : 0;
   int count = 0;
   for (const PathPair& child : path.children) count += CountKept(child);
   return count;
@@ -33,16 +34,18 @@ std::vector<FoldedPaths> Missing(const PathPair& root, Side side, Side other) {
   question.exists = [=](const PathPair& path) { return path.*side != nullptr; };
   question.label = [=](const PathPair& path, std::size_t) {
     constexpr int kMissing = 1;
-    return path.*other == nullptr ? kMissing : FoldQuestion::kLookBelow;
+    const bool isMissing = path.*other == nullptr || Ends(path.*side) != Ends(path.*other);
+    if (isMissing) return CountWhole(path, side) > 0 ? kMissing : FoldQuestion::kNothing;
+    return Ends(path.*side) ? FoldQuestion::kNothing : FoldQuestion::kLookBelow;
   };
   question.count = [=](const PathPair& path) { return CountWhole(path, side); };
   return FoldPaths(root, question);
 }
 
 // The changes of one trait, numbered from 1 by their first appearance.
-class TraitChanges {
+class NumberedChanges {
  public:
-  explicit TraitChanges(std::size_t place) : place_(place) {}
+  explicit NumberedChanges(std::size_t place) : place_(place) {}
 
   // 0 when the trait is the same.
   int NumberOf(const PathPair& path) {
@@ -59,9 +62,9 @@ class TraitChanges {
     return known->second;
   }
 
-  TraitChange Change(const Trait& trait, std::size_t level, FoldedPaths paths) const {
+  TraitChange Change(FoldedPaths paths) const {
     const auto& [before, after] = changes_[static_cast<std::size_t>(paths.label - 1)];
-    return {&trait, level, *before, *after, std::move(paths)};
+    return {*before, *after, std::move(paths)};
   }
 
  private:
@@ -80,17 +83,27 @@ class TraitChanges {
   std::vector<std::pair<const Value*, const Value*>> changes_;
 };
 
-void AddTraitChanges(const PathPair& root, std::size_t level, const Trait& trait, std::size_t place,
-                     std::vector<TraitChange>& result) {
-  TraitChanges changes(place);
+TraitChanges FindTraitChanges(const PathPair& root, const Trait& trait, std::size_t level,
+                              std::size_t place) {
+  NumberedChanges numbers(place);
   FoldQuestion question;
   question.exists = [](const PathPair& path) { return path.IsInBoth(); };
   question.label = [&](const PathPair& path, std::size_t at) {
-    return at == level ? changes.NumberOf(path) : FoldQuestion::kLookBelow;
+    return at == level ? numbers.NumberOf(path) : FoldQuestion::kLookBelow;
   };
+  TraitChanges changes{&trait, level, {}, {}};
   for (FoldedPaths& paths : FoldPaths(root, question)) {
-    result.push_back(changes.Change(trait, level, std::move(paths)));
+    changes.changes.push_back(numbers.Change(std::move(paths)));
   }
+  if (changes.changes.empty()) return changes;
+  question.label = [&](const PathPair& path, std::size_t at) {
+    constexpr int kChanged = 1;
+    return at != level                   ? FoldQuestion::kLookBelow
+           : numbers.NumberOf(path) != 0 ? kChanged
+                                         : FoldQuestion::kNothing;
+  };
+  changes.paths = FoldPaths(root, question);
+  return changes;
 }
 
 }  // namespace
@@ -106,7 +119,8 @@ PathChanges FindPathChanges(const PathComparison& comparison) {
   const auto& traits = comparison.kind->traits;
   for (std::size_t level = 0; level < traits.size(); ++level) {
     for (std::size_t place = 0; place < traits[level].size(); ++place) {
-      AddTraitChanges(root, level, traits[level][place], place, changes.changed);
+      TraitChanges found = FindTraitChanges(root, traits[level][place], level, place);
+      if (!found.changes.empty()) changes.changed.push_back(std::move(found));
     }
   }
   return changes;
@@ -135,7 +149,7 @@ std::string Tell(const FoldedPaths& paths, const Comparison& comparison, const P
     if (paths.options[i].kind == OptionSet::kEvery) continue;
     text += (text.empty() ? "" : "; ") + Tell(paths.options[i], comparison.NamesOf(kind.levels[i]));
   }
-  return text;
+  return text.empty() ? "all of them" : text;
 }
 
 Value Brief(const Value& value) {

@@ -9,11 +9,17 @@
 
 // Of the paths that are in both documents, one setting that isn't the same.
 struct TraitChange {
-  const Trait* trait;
-  std::size_t level;
   Value before;
   Value after;
   FoldedPaths paths;
+};
+
+// All changes of a setting.
+struct TraitChanges {
+  const Trait* trait;
+  std::size_t level;
+  std::vector<TraitChange> changes;
+  std::vector<FoldedPaths> paths;  // of all the changes together
 };
 
 struct PathChanges {
@@ -22,7 +28,9 @@ struct PathChanges {
   int kept = 0;
   std::vector<FoldedPaths> lost;
   std::vector<FoldedPaths> won;
-  std::vector<TraitChange> changed;
+  std::vector<TraitChanges> changed;  // settings with a change
+
+  bool Any() const { return !lost.empty() || !won.empty() || !changed.empty(); }
 };
 
 // Of a comparison that has a root.
@@ -33,7 +41,7 @@ int CountOf(const std::vector<FoldedPaths>& lines);
 // The options of a line at a level, in words: "every but Draft, Best".
 std::string Tell(const OptionSet& options, const std::vector<std::string>& names);
 
-// Those of all levels but where it is every one: "Glossy; Draft". Empty when it is every path.
+// Those of all levels but where it is every one: "Glossy; Draft", or "all of them".
 std::string Tell(const FoldedPaths& paths, const Comparison& comparison, const PathKind& kind);
 
 // The beginning of a list, and any other value as it stands.

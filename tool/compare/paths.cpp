@@ -24,6 +24,7 @@ constexpr Trait kDefaultPrintMode[] = {{"defaultPrintMode", "Default print mode"
 constexpr Trait kDefaultResolution[] = {{"defaultResolution", "Default resolution"}};
 constexpr Trait kDefaultColorMode[] = {{"defaultColorMode", "Default colour mode"}};
 constexpr Trait kColorModeTraits[] = {
+    {"offered", "Offered step by step"},
     {"printerSpecificText", "Printer specific text"},
     {"profiles", "Profiles"},
     {"defaultProfile", "Default profile"},
@@ -53,7 +54,11 @@ constexpr PathKind kKinds[] = {
      false},
 };
 
-using Nodes = std::vector<const CQDFNode*>;
+// The nodes for an option below those of a path, in the order of a search.
+struct Below {
+  std::vector<const CQDFNode*> nodes;
+  bool isOffered = false;  // by the first node of the path, which decides what is listed
+};
 
 Value TextAt(const AStringArray& texts, int index) {
   if (index < 0 || index >= texts.GetSize()) return {};
@@ -90,19 +95,22 @@ class PathReader {
 
   bool Read(PathNode& root) {
     const CQDFNode& tree = kind_.isJob ? members_.ControlTreeRoot : members_.MediaSourceTreeRoot;
-    return Read({&tree}, 0, root);
+    return Read({{&tree}, true}, 0, root);
   }
 
  private:
-  // Fills a path that ends in any of these nodes, which stand in the order of a search.
-  bool Read(const Nodes& nodes, std::size_t level, PathNode& path) {
-    auto& traits = traits_[nodes.front()];
-    if (traits == nullptr) traits = std::make_shared<Traits>(TraitsOf(*nodes.front(), level));
+  // Fills a path that ends in any of these nodes.
+  bool Read(const Below& ends, std::size_t level, PathNode& path) {
+    const CQDFNode& first = *ends.nodes.front();
+    auto& traits = traits_[{&first, ends.isOffered}];
+    if (traits == nullptr) {
+      traits = std::make_shared<Traits>(TraitsOf(first, level, ends.isOffered));
+    }
     path.traits = traits;
     if (level == kind_.levels.size()) return true;
-    std::map<int, Nodes> below;
-    for (const CQDFNode* node : nodes) {
-      if (!Sort(*node, level, below)) return false;
+    std::map<int, Below> below;
+    for (const CQDFNode* node : ends.nodes) {
+      if (!Sort(*node, level, ends.isOffered && node == &first, below)) return false;
     }
     path.children.reserve(below.size());
     for (const auto& [entry, children] : below) {
@@ -113,7 +121,7 @@ class PathReader {
   }
 
   // Media sources are searched without going back: the first node for an option is all.
-  bool Sort(const CQDFNode& node, std::size_t level, std::map<int, Nodes>& below) {
+  bool Sort(const CQDFNode& node, std::size_t level, bool isOffered, std::map<int, Below>& below) {
     const bool isMargin = !kind_.isJob && level + 1 == kind_.levels.size();
     const int count = isMargin ? std::min(node.Children.GetSize(), 1) : node.Children.GetSize();
     const KnownEntries& known = entries_[kind_.levels[level].list];
@@ -123,16 +131,18 @@ class PathReader {
         if (--left_ < 0) return false;
         const auto found = known.places.find(static_cast<int>(id));
         if (found == known.places.end()) continue;
-        Nodes& nodes = below[found->second];
-        if (nodes.empty() || kind_.isJob) nodes.push_back(child);
+        Below& option = below[found->second];
+        if (option.nodes.empty()) option.isOffered = isOffered;
+        if (option.nodes.empty() || kind_.isJob) option.nodes.push_back(child);
       }
     }
     return true;
   }
 
-  Traits TraitsOf(const CQDFNode& node, std::size_t level) const {
+  Traits TraitsOf(const CQDFNode& node, std::size_t level, bool isOffered) const {
     if (kind_.isJob) {
-      return level < kind_.levels.size() ? Traits{DefaultOf(node, level)} : ColorModeTraits(node);
+      return level < kind_.levels.size() ? Traits{DefaultOf(node, level)}
+                                         : ColorModeTraits(node, isOffered);
     }
     constexpr std::size_t kSizeLevel = 2;
     if (level > kSizeLevel) return {};
@@ -149,7 +159,7 @@ class PathReader {
     return node.Default == 0 ? Value() : Value("unknown id " + std::to_string(node.Default));
   }
 
-  Traits ColorModeTraits(const CQDFNode& node) const {
+  Traits ColorModeTraits(const CQDFNode& node, bool isOffered) const {
     const CQDFNode none{};
     const auto leaf = [&](int place) -> const CQDFNode& {
       return place < node.Children.GetSize() ? *ChildAt(node, place) : none;
@@ -157,7 +167,8 @@ class PathReader {
     const auto preset = [&](int place, const AStringArray& texts) {
       return place < node.Children.GetSize() ? TextAt(texts, leaf(place).Default) : Value();
     };
-    return {TextAt(members_.OEMInfoList, node.Default),
+    return {isOffered ? "yes" : "no",
+            TextAt(members_.OEMInfoList, node.Default),
             TextsOf(leaf(0), members_.ICCProfileList),
             preset(0, members_.ICCProfileList),
             TextsOf(leaf(1), members_.DitherNameList),
@@ -168,7 +179,7 @@ class PathReader {
   DocumentMembers members_;
   const PathKind& kind_;
   const std::vector<KnownEntries>& entries_;
-  std::unordered_map<const CQDFNode*, std::shared_ptr<const Traits>> traits_;
+  std::map<std::pair<const CQDFNode*, bool>, std::shared_ptr<const Traits>> traits_;
   int left_;
 };
 
