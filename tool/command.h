@@ -77,11 +77,13 @@ struct Command {
   const char* example;  // a whole command line
   std::span<const Option> options;
   Answer (*run)(const Arguments& arguments);
+  ExitCode noAnswer = kNoAnswer;  // what failures without an answer exit with
 };
 
 extern const Command kShowCommand;
 extern const Command kNarrowCommand;
 extern const Command kTreeCommand;
+extern const Command kDiffCommand;
 extern const Command kLocaliseCommand;
 extern const Command kMediaCommand;
 extern const Command kOptionsCommand;

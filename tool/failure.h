@@ -7,7 +7,9 @@
 
 #include "tool/report.h"
 
-enum ExitCode { kAnswered = 0, kNoAnswer = 1, kWrongUsage = 2 };
+// A command that compares says with 1 that there are differences, and with 2 also that it has no
+// answer.
+enum ExitCode { kAnswered = 0, kNoAnswer = 1, kDifferent = 1, kWrongUsage = 2 };
 
 struct Failure : std::runtime_error {
   // One line of text, which may hold any bytes, and what is shown below it.

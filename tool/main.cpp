@@ -14,8 +14,9 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kShowCommand,    &kNarrowCommand, &kTreeCommand,      &kLocaliseCommand, &kMediaCommand,
-    &kOptionsCommand, &kWriteCommand,  &kResourcesCommand, &kUpdateCommand,   &kSweepCommand,
+    &kShowCommand,      &kNarrowCommand, &kTreeCommand,    &kDiffCommand,
+    &kLocaliseCommand,  &kMediaCommand,  &kOptionsCommand, &kWriteCommand,
+    &kResourcesCommand, &kUpdateCommand, &kSweepCommand,
 };
 
 // As with git, an empty folder changes nothing.
@@ -31,14 +32,9 @@ Answer Ask(const Question& question, bool json) {
   return question.onYes();
 }
 
-int Run(int count, char** words) {
-  const Invocation invocation = ParseCommandLine(count, words, kCommands);
-  if (!invocation.text.empty()) {
-    Print(invocation.text);
-    return kAnswered;
-  }
+int Run(const Command& command, const Invocation& invocation) {
   for (const std::string& folder : invocation.folders) ChangeFolder(folder);
-  Answer answer = invocation.command->run(invocation.arguments);
+  Answer answer = command.run(invocation.arguments);
   PrintReport(answer.report, invocation.json);
   while (answer.question != nullptr) {
     answer = Ask(*answer.question, invocation.json);
@@ -48,12 +44,24 @@ int Run(int count, char** words) {
 }
 
 int RunAndTell(int count, char** words) {
+  ExitCode noAnswer = kNoAnswer;
   try {
-    return Run(count, words);
+    const Invocation invocation = ParseCommandLine(count, words, kCommands);
+    if (invocation.command == nullptr) {
+      Print(invocation.text);
+      return kAnswered;
+    }
+    noAnswer = invocation.command->noAnswer;
+    return Run(*invocation.command, invocation);
   } catch (const Failure& failure) {
     Complain(failure);
-    return failure.code;
+    return failure.code == kNoAnswer ? noAnswer : failure.code;
+  } catch (const std::bad_alloc&) {
+    ComplainOfMemory();
+  } catch (const std::exception& fault) {
+    Complain(std::string("internal fault: ") + fault.what());
   }
+  return noAnswer;
 }
 
 }  // namespace
@@ -66,8 +74,6 @@ int main(int count, char** words) {
     return RunAndTell(count, words);
   } catch (const std::bad_alloc&) {
     ComplainOfMemory();
-  } catch (const std::exception& fault) {
-    Complain(std::string("internal fault: ") + fault.what());
   }
   return kNoAnswer;
 }

@@ -68,6 +68,7 @@ std::vector<std::string> Examples(const std::string& help) {
 // What the examples of the help pages take for granted.
 void FillExampleFolder(const TempFolder& folder) {
   std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("OutputDrivers"));
+  std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("old"));
   WriteResource(folder, "resources", {});
   WriteColours(folder.Path("colours.opt"));
   WriteColours(folder.Path("changed.opt"));

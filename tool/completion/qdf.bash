@@ -21,6 +21,7 @@ _qdf_grammar() { # COMMAND
       arguments=(documents)
       ;;
     tree) options="--depth" arguments=(documents) ;;
+    diff) arguments=(documents documents) ;;
     localise) options="--output --untranslated" arguments=(documents) ;;
     media) options="--set-name --set-profile --add-profile --remove" arguments=(documents) ;;
     options) arguments=(files files) ;;
@@ -79,7 +80,7 @@ _qdf() {
   fi
 
   local options='' arguments=() lists commands
-  commands="show narrow tree localise media options write resources update sweep"
+  commands="show narrow tree diff localise media options write resources update sweep"
   lists="inks media print-modes resolutions color-modes media-sources media-sizes margins"
   _qdf_grammar "$command"
   if [[ -z $value && $word == -* ]]; then value=options; fi

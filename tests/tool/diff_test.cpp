@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include "tests/documents.h"
+#include "tests/files.h"
+#include "tests/tool/document.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+struct Edit {
+  const char* from;
+  const char* to;
+};
+
+// Every place of each text is replaced.
+std::string Edited(const std::vector<Edit>& edits) {
+  std::string text = kSmallDocument;
+  for (const Edit& edit : edits) {
+    std::size_t at = text.find(edit.from);
+    EXPECT_NE(at, std::string::npos) << edit.from;
+    for (; at != std::string::npos; at = text.find(edit.from, at + std::string(edit.to).size())) {
+      text.replace(at, std::string(edit.from).size(), edit.to);
+    }
+  }
+  return text;
+}
+
+class Diff : public testing::Test {
+ protected:
+  Diff() { folder_.Write("a.qdf", kSmallDocument); }
+
+  Outcome With(const std::string& text, const Words& more = {}) const {
+    folder_.Write("b.qdf", text);
+    Words words = {"diff", "a.qdf", "b.qdf"};
+    words.insert(words.end(), more.begin(), more.end());
+    return RunTool(words, {folder_.Path()});
+  }
+
+  TempFolder folder_;
+};
+
+std::string Head(const std::string& result) {
+  return "First:   a.qdf\nSecond:  b.qdf\nResult:  " + result + '\n';
+}
+
+TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
+  const std::vector<Edit> rows[] = {
+      {},
+      {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""}, {"ID=\"40,41\"", "ID=\"41,40\""}},
+      {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", ""},
+       {"<Ink ID=\"2\"><Media ID=\"13\">", "<Ink ID=\"2\"><Media ID=\"10\"/><Media ID=\"13\">"}},
+  };
+  EXPECT_EQ(With(Edited(rows[0])), (Outcome{0, Head("equal in meaning")}));
+  EXPECT_EQ(With(Edited(rows[1])), (Outcome{0, Head("equal in meaning")}));
+  // The medium was behind the node that is asked.
+  EXPECT_EQ(With(Edited(rows[2])), (Outcome{1, Head("different") + R"(
+Settings of combinations (1)
+  Setting               Before  After  For          How many
+  Offered step by step  no      yes    Matte Black         1
+)"}));
+  EXPECT_EQ(With(Edited({{"<ID>12</ID>", "<ID>112</ID>"}, {"10,11,12", "10,11,112"}})),
+            (Outcome{0, Head("equal in meaning, but some ids differ") + R"(
+Lists (1)
+  List   Kept  Renumbered  Changed  New  Gone
+  Media     3           1        0    0     0
+
+Media (1)
+  Change       ID  Formerly  Display name  Internal name  What changed
+  renumbered  112        12  10            PL
+)"}));
+}
+
+TEST_F(Diff, TellsChangesByNameAndTheWeightiestFirst) {
+  const std::string changed = Edited({
+      {"<ProductType>small", "<ProductType>large"},
+      {"<DisplayName>Draft<", "<DisplayName>Fast<"},
+      {"<ID>21</ID><InternalName>be</InternalName><DisplayName>Best",
+       "<ID>22</ID><InternalName>su</InternalName><DisplayName>Super"},
+      {"ID=\"20,21\"", "ID=\"20,22\""},
+      {"<Value>600x1200", "<Value>600"},
+      {"<ICCProfile>a.icc</ICCProfile>", ""},
+      {"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60,61\"/>"},
+  });
+  EXPECT_EQ(With(changed), (Outcome{1, Head("different") + R"(
+Header (1)
+  Field         Before  After
+  Product type  small   large
+
+Lists (2)
+  List         Kept  Renumbered  Changed  New  Gone
+  Print modes     0           0        1    1     1
+  Resolutions     1           0        1    0     0
+
+Print modes (3)
+  Change   ID  Formerly  Display name  Internal name  What changed
+  gone     21            Best          be
+  new      22            Super         su
+  changed  20            Fast          dr             Display name: Draft becomes Fast
+
+Resolutions (1)
+  Change   ID  Formerly  Display name  What changed
+  changed  31            fine          Y: 1200 becomes 600
+
+Combinations
+  Before:  26
+  After:   26
+  Kept:    14
+  Lost:    12
+  Won:     12
+
+Groups of combinations lost (1)
+  Ink          Print mode  How many
+  Photo Black  Best              12
+
+Groups of combinations won (1)
+  Ink          Print mode  How many
+  Photo Black  Super             12
+
+Settings of combinations (2)
+  Setting             Before        After          For          How many
+  Default print mode  Best          unknown id 21  Photo Black         3
+  Profiles            a.icc, b.icc  b.icc          Photo Black        12
+
+Media source combinations
+  Before:  5
+  After:   6
+  Kept:    5
+  Lost:    0
+  Won:     1
+
+Groups of media source combinations won (1)
+  Media source  Media size  How many
+  Tray          A3                 1
+)"}));
+}
+
+TEST_F(Diff, NamesNoneWhereAllThatReachSoFarAreMeant) {
+  const Edit noSecondInk = {"<Ink ID=\"2\"><Media ID=\"13\">", "<Ink ID=\"77\"><Media ID=\"13\">"};
+  folder_.Write("a.qdf", Edited({noSecondInk}));
+  const Outcome outcome = With(Edited({noSecondInk, {"Quality=1", "Quality=2"}}));
+  EXPECT_EQ(outcome, (Outcome{1, Head("different") + R"(
+Settings of combinations (1)
+  Setting                Before     After      For          How many
+  Printer specific text  Quality=1  Quality=2  all of them        24
+)"}));
+}
+
+TEST_F(Diff, TellsProgramsTheSameFromEitherSide) {
+  const std::string changed = Edited({{"ID=\"30,31\"", "ID=\"30\""}});
+  const auto there = nlohmann::json::parse(With(changed, {"--json"}).out);
+  EXPECT_EQ(there["equal"], false);
+  EXPECT_EQ(there["combinationsLost"], nlohmann::json::parse(R"([{"ink": {"only": ["Photo Black"]},
+      "media": {"every": true}, "printMode": {"every": true}, "resolution": {"only": ["fine"]},
+      "colorMode": {"every": true}, "count": 12}])"));
+  folder_.Write("a.qdf", changed);
+  const auto back = nlohmann::json::parse(With(kSmallDocument, {"--json"}).out);
+  EXPECT_EQ(back["combinationsWon"], there["combinationsLost"]);
+  EXPECT_EQ(back["combinationsLost"], there["combinationsWon"]);
+}
+
+std::string NumbersTo(int last) {
+  std::string text = "1";
+  for (int i = 2; i <= last; ++i) text += ',' + std::to_string(i);
+  return text;
+}
+
+TEST_F(Diff, SaysWithCode2WhatCannotBeCompared) {
+  EXPECT_EQ(With("<Q>"), (Outcome{2, "", "qdf: b.qdf:1:1: this element is not closed\n"}));
+  EXPECT_EQ(RunTool({"diff", "a.qdf"}, {folder_.Path()}),
+            (Outcome{2, "", "qdf: B is required; try 'qdf diff --help'\n"}));
+  // A million combinations.
+  std::string entries;
+  for (int i = 1; i <= 1000; ++i) {
+    entries += (i > 1 ? ";" : "") + std::to_string(i);
+  }
+  const std::string all = NumbersTo(1000);
+  const std::string large = DocumentText{.InkList = Entries(entries),
+                                         .MediaList = Entries(entries),
+                                         .Control = Control(">1[" + all + ">1[" + all + "]]")}
+                                .Text();
+  folder_.Write("a.qdf", large);
+  EXPECT_EQ(With(large), (Outcome{2, R"(First:         a.qdf
+Second:        b.qdf
+Result:        not known
+Combinations:  too many to compare
+)"}));
+}
+
+}  // namespace

@@ -1,0 +1,56 @@
+// qdf diff: two documents compared by what they mean.
+
+#include "tool/command.h"
+#include "tool/compare/changes.h"
+#include "tool/load.h"
+
+namespace {
+
+constexpr const char* Tell(Difference difference) {
+  switch (difference) {
+    case Difference::kNone:
+      return "equal in meaning";
+    case Difference::kIDs:
+      return "equal in meaning, but some ids differ";
+    case Difference::kMeaning:
+      return "different";
+    case Difference::kUnknown:
+      break;
+  }
+  return "not known";
+}
+
+Answer Diff(const Arguments& arguments) {
+  const Document first = LoadDocument(arguments.Get("A"));
+  const Document second = LoadDocument(arguments.Get("B"));
+  Object changes;
+  const Difference difference =
+      AddChanges(Comparison(*first.content, *second.content), Shown::kChanges, changes);
+  const bool isKnown = difference != Difference::kUnknown;
+  const bool isEqual = difference == Difference::kNone || difference == Difference::kIDs;
+  Object report{{"first", "First", first.path},
+                {"second", "Second", second.path},
+                {"equal", "Result", isKnown ? Value(isEqual) : Value(), Tell(difference)}};
+  for (Field& field : changes.fields) report.Add(std::move(field));
+  if (!isKnown) return {report, kWrongUsage};
+  return {report, isEqual ? kAnswered : kDifferent};
+}
+
+constexpr Option kOptions[] = {
+    {"A", "", "The document as it was", true},
+    {"B", "", "The document as it is", true},
+};
+
+}  // namespace
+
+const Command kDiffCommand = {
+    "diff",
+    "Compare two documents by what they mean",
+    "Entries are compared by internal name, or else by display name, and combinations by their\n"
+    "entries; neither ids nor order count, but ids that differ are told. The exit code is 0 when\n"
+    "the documents mean the same, 1 when they don't, 2 when they can't be compared.",
+    "qdf diff old/plot36.qdf plot36.qdf",
+    kOptions,
+    Diff,
+    kWrongUsage,
+};
