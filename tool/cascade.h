@@ -19,14 +19,21 @@ struct Offer {
 };
 
 struct Level {
-  const char* option;  // of the command line; null where nothing is left to choose
-  const char* key;     // of the choice made, and of the list that is offered
+  const char* option;   // of the command line; null where nothing is left to choose
+  const char* element;  // that nodes of the level have in a document
+  const char* key;      // of the choice made, and of the list that is offered
   const char* label;
   const char* listKey;
   const char* listLabel;
   Offer (*offer)(APMQDF& document, const std::vector<int>& chosen);
   std::vector<Choice> (*all)(APMQDF& document);
 };
+
+// A label of a level within a sentence: "print mode".
+std::string InSentence(const char* label);
+
+// As in: media 3 "Glossy".
+std::string Tell(const Level& level, const Choice& choice);
 
 // Ink, media, print mode, resolution, colour mode.
 extern const std::span<const Level> kJobLevels;

@@ -10,6 +10,7 @@
 #include "tool/command.h"
 #include "tool/load.h"
 #include "tool/ripresolutions.h"
+#include "tool/why.h"
 
 namespace {
 
@@ -21,18 +22,10 @@ struct Step {
   bool offered;
 };
 
-std::string LowerFirst(std::string text) {
-  text[0] = static_cast<char>(text[0] | ('a' ^ 'A'));
-  return text;
-}
-
-std::string Tell(const Step& step) {
-  return LowerFirst(step.level->label) + ' ' + NameChoice(step.choice);
-}
-
 std::string Tell(std::span<const Step> steps) {
   std::string text;
-  for (const Step& step : steps) text += (text.empty() ? "" : ", ") + Tell(step);
+  for (const Step& step : steps)
+    text += (text.empty() ? "" : ", ") + Tell(*step.level, step.choice);
   return text;
 }
 
@@ -87,6 +80,11 @@ class Walk {
   Failure NoAnswer() const { return deadEnd_ ? *deadEnd_ : Without("job"); }
 
   const std::vector<int>& IDs() const { return ids_; }
+  std::vector<Choice> Choices() const {
+    std::vector<Choice> choices;
+    for (const Step& step : steps_) choices.push_back(step.choice);
+    return choices;
+  }
   bool EndsInOffered() const { return steps_.back().offered; }
 
  private:
@@ -98,20 +96,20 @@ class Walk {
     if (last.offered || above.empty()) {
       return {kNoAnswer, file + "no " + missing + " for " + Tell(steps_)};
     }
-    return {kNoAnswer, file + Tell(last) + " isn't offered for " + Tell(above)};
+    return {kNoAnswer, file + Tell(*last.level, last.choice) + " isn't offered for " + Tell(above)};
   }
 
   // False when nothing tells which of the offered to take.
   bool Decide(const Level& level, const Offer& offer, Object& choice) {
     const bool isGiven = IsGiven(level, arguments_);
-    if (offer.choices.empty() && !deadEnd_) deadEnd_ = Without(LowerFirst(level.listLabel));
+    if (offer.choices.empty() && !deadEnd_) deadEnd_ = Without(InSentence(level.listLabel));
     if (offer.choices.empty() && !isGiven) {
       const bool asked = levels_.data() == kJobLevels.data() || AnyGiven(levels_, arguments_);
-      if (asked) throw NoAnswer();
+      if (asked && !arguments_.Has("--why")) throw NoAnswer();
       return false;
     }
     if (!isGiven && (level.option == nullptr || !arguments_.Has("--defaults"))) return false;
-    const Choice chosen = isGiven ? FindChoice(document_.path + ": " + LowerFirst(level.label),
+    const Choice chosen = isGiven ? FindChoice(document_.path + ": " + InSentence(level.label),
                                                *arguments_.Find(level.option),
                                                level.all(*document_.content), offer.choices)
                                   : offer.choices[offer.defaultPosition];
@@ -213,6 +211,15 @@ void WalkJob(const Document& document, const Arguments& arguments, Object& choic
   AddDetails(details, report);
 }
 
+void WalkWhy(const Document& document, Levels levels, const Arguments& arguments, Object& choice,
+             Object& report) {
+  Walk walk(document, levels, arguments);
+  Object offers;
+  walk.Descend(choice, offers);
+  const std::vector<Choice> choices = walk.Choices();
+  report.Add(TellWhy(Explain(*document.content, levels, choices)));
+}
+
 Answer Narrow(const Arguments& arguments) {
   const bool job = AnyGiven(kJobLevels, arguments);
   const bool mediaSource = AnyGiven(kMediaSourceLevels, arguments);
@@ -223,8 +230,13 @@ Answer Narrow(const Arguments& arguments) {
   const Document document = LoadDocument(arguments.Get("DOC"));
   Object choice;
   Object offers;
-  if (job || !mediaSource) WalkJob(document, arguments, choice, offers);
-  if (mediaSource || !job) Walk(document, kMediaSourceLevels, arguments).Descend(choice, offers);
+  if (arguments.Has("--why")) {
+    if (job || !mediaSource) WalkWhy(document, kJobLevels, arguments, choice, offers);
+    if (mediaSource || !job) WalkWhy(document, kMediaSourceLevels, arguments, choice, offers);
+  } else {
+    if (job || !mediaSource) WalkJob(document, arguments, choice, offers);
+    if (mediaSource || !job) Walk(document, kMediaSourceLevels, arguments).Descend(choice, offers);
+  }
   Object report{{"document", nullptr, document.path}, {"choice", "Choice", choice}};
   for (Field& field : offers.fields) report.Add(std::move(field));
   return {report};
@@ -240,6 +252,7 @@ constexpr Option kOptions[] = {
     {"--source", "X", "The media source"},
     {"--size", "X", "The media size"},
     {"--defaults", "", "Take the default wherever no choice is given"},
+    {"--why", "", "Tell instead why the choice gives an answer or none, and which would"},
 };
 
 }  // namespace
@@ -251,7 +264,8 @@ const Command kNarrowCommand = {
     "colour mode, and below that the profiles and dithers; or a media source, then a size, and\n"
     "below that the margins. X is an id, a display name or an internal name.",
     "qdf narrow plot36.qdf --ink 1 --media Glossy\n"
-    "  qdf narrow plot36.qdf --defaults",
+    "  qdf narrow plot36.qdf --defaults\n"
+    "  qdf narrow plot36.qdf --source 1 --size A4 --why",
     kOptions,
     Narrow,
 };

@@ -4,9 +4,9 @@
 //
 // A report is one object. As JSON it stands as it is. As text its fields are laid out by their
 // shape: a list of objects becomes a table, an object with the field "children" an outline, any
-// other object a block of lines, and what remains one line each. A field without a label is for
-// programs only, and one without a key for people only. Texts may hold any bytes; whoever lays a
-// report out makes them harmless.
+// other object a block of lines, and what remains one line each. A text whose label is empty is a
+// paragraph. A field without a label is for programs only, and one without a key for people only.
+// Texts may hold any bytes; whoever lays a report out makes them harmless.
 
 #include <cstdint>
 #include <initializer_list>

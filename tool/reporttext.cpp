@@ -1,6 +1,7 @@
 // Reports for people.
 
 #include <algorithm>
+#include <sstream>
 
 #include "tool/printable.h"
 #include "tool/report.h"
@@ -25,6 +26,11 @@ class TextLayout {
       if (field.label == nullptr) continue;
       const Object* object = AsObject(field.Shown());
       const List* rows = AsTable(field.Shown());
+      if (IsParagraph(field)) {
+        AddBlock(nullptr, std::exchange(loose, {}));
+        AddParagraph(std::get<std::string>(field.Shown().data));
+        continue;
+      }
       if (object == nullptr && rows == nullptr) {
         loose.Add(field);
         continue;
@@ -66,6 +72,25 @@ class TextLayout {
 
   void AddLine(std::size_t indent, const std::string& printable) {
     text_.append(indent, ' ').append(printable).append(1, '\n');
+  }
+
+  static bool IsParagraph(const Field& field) {
+    return *field.label == '\0' && std::holds_alternative<std::string>(field.Shown().data);
+  }
+
+  void AddParagraph(const std::string& text) {
+    constexpr int kWidth = 80;
+    StartParagraph();
+    std::istringstream words(MakePrintable(text).text);
+    int column = 0;
+    for (std::string word; words >> word;) {
+      const int width = MakePrintable(word).columns;
+      const bool fits = column > 0 && column + 1 + width <= kWidth;
+      if (column > 0) text_ += fits ? ' ' : '\n';
+      column = fits ? column + 1 + width : width;
+      text_ += word;
+    }
+    text_ += '\n';
   }
 
   void AddTable(const char* label, const List& rows) {

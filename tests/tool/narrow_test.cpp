@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 
 #include "qdf/core/apmqdf.h"
 #include "qdf/support/text.h"
+#include "tests/documents.h"
 #include "tests/files.h"
 #include "tests/tool/document.h"
 #include "tests/tool/run.h"
@@ -166,6 +168,107 @@ TEST_F(Narrow, SaysWhichLevelGaveNone) {
   for (const auto& row : rows) {
     const std::string line = std::string("qdf: small.qdf: ") + row.line + '\n';
     EXPECT_EQ(Run(SplitWords(row.choices)), (Outcome{1, "", line}));
+  }
+}
+
+TEST_F(Narrow, SaysWhy) {
+  const struct {
+    const char* choices;
+    const char* text;
+  } rows[] = {
+      {"--ink 3", R"(
+Ink 3 "Unused" isn't listed. The tree holds only inks 1 "Photo Black" and 2
+"Matte Black". Ink 1 "Photo Black" or 2 "Matte Black" instead of 3 would give an
+answer.
+)"},
+      {"--ink 2", R"(
+Media 10 "Plain" may follow ink 2 "Matte Black". 2 nodes stand for that choice,
+Ink[2] and Ink[3]; the first one decides what is listed. Later nodes also hold
+media 13 "Glossy", which is never listed.
+)"},
+      {"--ink 2 --media 11", R"(
+Media 11 "Glossy" isn't listed for ink 2 "Matte Black". 2 nodes stand for that
+choice, Ink[2] and Ink[3]; the first one decides what is listed. It holds only
+media 10 "Plain". No other holds media 11 "Glossy". Ink 1 "Photo Black" instead
+of 2 would give an answer.
+)"},
+      {"--ink 2 --media 10 --defaults", R"(
+No print modes are listed for ink 2 "Matte Black", media 10 "Plain". One node
+stands for these choices, Ink[2]/Media[1]. It has nothing below it. Ink 1 "Photo
+Black" instead of 2 would give an answer.
+)"},
+      {"--ink 2 --media 13 --print-mode 20 --resolution 31 --color-mode 41", R"(
+Media 13 "Glossy" isn't listed for ink 2 "Matte Black". 2 nodes stand for that
+choice, Ink[2] and Ink[3]; the first one decides what is listed. It holds only
+media 10 "Plain". Media 13 "Glossy" stands in Ink[3], which comes too late. A
+host that gives all ids at once still gets the profiles and dithers of
+Ink[3]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1]. No change of one choice
+alone gives an answer.
+)"},
+      {"--ink 1 --defaults", R"(
+The combination gives an answer. It is found in
+Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1].
+)"},
+      {"--source 51 --size 60", R"(
+No margins are listed for media source 51 "Tray", media size 60 "A4". One node
+stands for these choices, MediaSource[2]/MediaSize[1]. It has nothing below it.
+Media source 50 "Roll" instead of 51 would give an answer.
+)"},
+  };
+  for (const auto& row : rows) {
+    const Outcome outcome = Run(SplitWords(row.choices + std::string(" --why")));
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.out.substr(std::min(outcome.out.find("\n\n") + 1, outcome.out.size())),
+              row.text);
+  }
+  nlohmann::json why = Json("--ink 2 --media 13 --why")["job"];
+  EXPECT_TRUE(std::string(why["text"]).starts_with("Media 13 \"Glossy\" isn't listed"));
+  why.erase("text");
+  EXPECT_EQ(why, nlohmann::json::parse(R"({"answers": false, "level": "media",
+    "nodes": [
+      {"node": "Ink[2]", "options": [{"id": 10, "displayName": "Plain", "internalName": "pl"}]},
+      {"node": "Ink[3]", "options": [{"id": 13, "displayName": "Glossy", "internalName": "gl2"}]}],
+    "hidden": [{"id": 13, "displayName": "Glossy", "internalName": "gl2", "node": "Ink[3]"}],
+    "found": "Ink[3]/Media[1]", "changes": []})"));
+}
+
+// All single changes of a choice of three are tried.
+TEST(NarrowWhy, KnowsTheChangesThatGiveAnAnswer) {
+  const TempFolder folder;
+  folder.Write("d.qdf", DocumentText{.InkList = Entries("1;2"),
+                                     .MediaList = Entries("1;2;3"),
+                                     .PrintModeList = Entries("1;2;3"),
+                                     .Control = Control("[1[1,2[1[1[1]];3];3[2[1[1]]]];"
+                                                        "2[1[2[1[1]]];2[1,3[1]]];2[3[3[1[1]]]]]")}
+                            .Text());
+  const auto ask = [&](const std::vector<int>& ids, bool why) {
+    Words words = {"narrow", "d.qdf", "--ink", "0", "--media", "0", "--print-mode", "0"};
+    for (std::size_t i = 0; i < ids.size(); ++i) words[3 + 2 * i] = std::to_string(ids[i]);
+    if (why) words.emplace_back("--why");
+    return RunJson(words, {folder.Path()});
+  };
+  const std::string keys[] = {"ink", "media", "printMode"};
+  for (const std::vector<int>& choice : {std::vector{1, 1, 3}, {2, 3, 3}, {2, 1, 1}, {1, 3, 3}}) {
+    const nlohmann::json why = ask(choice, true)["job"];
+    EXPECT_EQ(why["answers"], false);
+    std::set<std::vector<int>> told;
+    for (const auto& change : why["changes"]) {
+      std::vector<int> changed = choice;
+      changed[static_cast<std::size_t>(std::find(keys, keys + 3, change["level"]) - keys)] =
+          change["id"];
+      told.insert(changed);
+    }
+    for (std::size_t level = 0; level < 3; ++level) {
+      for (int id = 1; id <= (level == 0 ? 2 : 3); ++id) {
+        std::vector<int> changed = choice;
+        changed[level] = id;
+        const bool answers = ask(changed, true)["job"]["answers"];
+        EXPECT_EQ(told.count(changed) != 0, answers) << level << ' ' << id;
+        if (answers) {
+          EXPECT_FALSE(ask(changed, false)["resolutions"].empty());
+        }
+      }
+    }
   }
 }
 

@@ -18,6 +18,7 @@ _qdf_grammar() { # COMMAND
     show) options="--list" arguments=(documents) ;;
     narrow)
       options="--ink --media --print-mode --resolution --color-mode --source --size --defaults"
+      options+=" --why"
       arguments=(documents)
       ;;
     tree) options="--depth" arguments=(documents) ;;

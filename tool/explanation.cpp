@@ -1,0 +1,142 @@
+#include "tool/explanation.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "qdf/core/documentmembers.h"
+#include "qdf/query/treewalk.h"
+
+namespace {
+
+class Explainer {
+ public:
+  Explainer(APMQDF& document, Explanation& result) : result_(result) {
+    for (const Level& level : result.levels) {
+      auto& known = result.known.emplace_back();
+      for (Choice& choice : level.all(document)) known.emplace(choice.id, std::move(choice));
+    }
+    const DocumentMembers members(document);
+    const CQDFNode& root = result.IsJob() ? members.ControlTreeRoot : members.MediaSourceTreeRoot;
+    Decide(root);
+    Stand(root);
+    FindHidden();
+    if (!result.answers) FindChanges();
+  }
+
+ private:
+  struct Place {
+    const CQDFNode* node;
+    std::string name;
+  };
+
+  std::size_t ChoiceCount() const { return result_.choices.size(); }
+
+  // Of the nodes with margins only the first counts.
+  std::vector<int> Options(const CQDFNode& node, std::size_t level) const {
+    std::vector<int> options;
+    if (level == result_.levels.size()) return options;
+    const bool isFirstOnly = result_.levels[level].option == nullptr;
+    const bool hasFirst = isFirstOnly && node.Children.GetSize() > 0;
+    for (const std::uint32_t id : hasFirst ? ChildAt(node, 0)->IDs : MergedChildIDs(node)) {
+      const int option = static_cast<int>(id);
+      if (result_.known[level].count(option) != 0) options.push_back(option);
+    }
+    return options;
+  }
+
+  bool LeadsOn(const CQDFNode& last) const {
+    return ChoiceCount() == result_.levels.size() || !Options(last, ChoiceCount()).empty();
+  }
+
+  // While each choice is listed, the first node for it under the one before is the first of all.
+  void Decide(const CQDFNode& root) {
+    deciding_.push_back(&root);
+    for (const Choice& choice : result_.choices) {
+      const CQDFNode* next = FindChildWithID(*deciding_.back(), choice.id);
+      if (next == nullptr) break;
+      deciding_.push_back(next);
+    }
+    result_.at = deciding_.size() - 1;
+    result_.answers = !result_.IsUnlisted() && LeadsOn(*deciding_.back());
+  }
+
+  void Stand(const CQDFNode& root) {
+    std::vector<Place> places{{&root, ""}};
+    for (std::size_t level = 0; level <= ChoiceCount(); ++level) {
+      if (level == result_.at) {
+        for (const Place& place : places) {
+          const bool isEmpty = place.node->Children.GetSize() == 0;
+          result_.standing.push_back({place.name, Options(*place.node, level), isEmpty});
+        }
+      }
+      if (level < ChoiceCount()) places = Below(places, level);
+    }
+    if (!places.empty()) result_.found = places.front().name;
+  }
+
+  std::vector<Place> Below(const std::vector<Place>& places, std::size_t level) const {
+    const auto id = static_cast<std::uint32_t>(result_.choices[level].id);
+    std::vector<Place> below;
+    for (const Place& place : places) {
+      const std::string start = place.name + (place.name.empty() ? "" : "/");
+      for (int i = 0; i < place.node->Children.GetSize(); ++i) {
+        CQDFNode* child = ChildAt(*place.node, i);
+        if (IsIDInArray(id, *child) == 0) continue;
+        const std::string number = '[' + std::to_string(i + 1) + ']';
+        below.push_back({child, start});
+        below.back().name.append(result_.levels[level].element).append(number);
+      }
+    }
+    return below;
+  }
+
+  void FindHidden() {
+    std::unordered_set<int> told;
+    for (std::size_t i = 0; i < result_.standing.size(); ++i) {
+      for (const int id : result_.standing[i].options) {
+        if (told.insert(id).second && i > 0) result_.hidden.push_back({id, i});
+      }
+    }
+  }
+
+  // On the level that fails or before it; what stands behind it can't help.
+  void FindChanges() {
+    for (std::size_t level = 0; level <= result_.at && level < ChoiceCount(); ++level) {
+      std::unordered_set<int> told{result_.choices[level].id};
+      const CQDFNode& node = *deciding_[level];
+      for (int i = 0; i < node.Children.GetSize(); ++i) {
+        const CQDFNode& child = *ChildAt(node, i);
+        const bool answers = AnswersBehind(child, level);
+        for (const std::uint32_t each : child.IDs) {
+          const int id = static_cast<int>(each);
+          const bool isFirst = told.insert(id).second;
+          if (!answers || !isFirst || result_.known[level].count(id) == 0) continue;
+          result_.changes.push_back({level, id});
+        }
+      }
+    }
+  }
+
+  // Whether the choices behind that of a level lead on from a node of that level.
+  bool AnswersBehind(const CQDFNode& start, std::size_t level) const {
+    const CQDFNode* node = &start;
+    for (std::size_t i = level + 1; i < ChoiceCount() && node != nullptr; ++i) {
+      node = FindChildWithID(*node, result_.choices[i].id);
+    }
+    return node != nullptr && LeadsOn(*node);
+  }
+
+  Explanation& result_;
+  std::vector<const CQDFNode*> deciding_;  // for so many choices, from none on
+};
+
+}  // namespace
+
+Explanation Explain(APMQDF& document, std::span<const Level> levels,
+                    std::span<const Choice> choices) {
+  Explanation explanation;
+  explanation.levels = levels;
+  explanation.choices = choices;
+  const Explainer explainer(document, explanation);
+  return explanation;
+}

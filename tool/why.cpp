@@ -1,0 +1,196 @@
+#include "tool/why.h"
+
+#include <algorithm>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+// As in: a, b and 3 more.
+std::string Enumerate(const Names& names, const std::string& joint) {
+  constexpr std::size_t kMost = 4;
+  std::string text;
+  for (std::size_t i = 0; i < names.size() && i < kMost; ++i) {
+    const bool isLast = i + 1 == names.size();
+    text += (i == 0 ? "" : isLast ? ' ' + joint + ' ' : ", ") + names[i];
+  }
+  return names.size() > kMost
+             ? text + ' ' + joint + ' ' + std::to_string(names.size() - kMost) + " more"
+             : text;
+}
+
+std::string UpperFirst(std::string text) {
+  text[0] = static_cast<char>(text[0] & ~('a' ^ 'A'));
+  return text;
+}
+
+class Teller {
+ public:
+  explicit Teller(const Explanation& facts) : facts_(facts) {}
+
+  std::string Text() const {
+    return Verdict() + TellNodes() + TellListed() + TellHidden() + TellFound() + TellChanges();
+  }
+
+ private:
+  bool IsWhole() const { return facts_.at == facts_.levels.size(); }
+
+  // As in: media 3 "Glossy" or 4 "Matte".
+  std::string Options(std::size_t level, const std::vector<int>& ids,
+                      const std::string& joint) const {
+    const Level& at = facts_.levels[level];
+    Names names;
+    for (const int id : ids) names.push_back(NameChoice(facts_.known[level].at(id)));
+    return InSentence(ids.size() > 1 && joint == "and" ? at.listLabel : at.label) + ' ' +
+           Enumerate(names, joint);
+  }
+
+  // The choice that fails.
+  std::string Failing() const { return Tell(facts_.levels[facts_.at], facts_.choices[facts_.at]); }
+
+  // All choices before the level in question.
+  std::string Before() const {
+    std::string text;
+    for (std::size_t i = 0; i < facts_.at; ++i) {
+      text += (i > 0 ? ", " : "") + Tell(facts_.levels[i], facts_.choices[i]);
+    }
+    return text;
+  }
+
+  std::string Verdict() const {
+    if (IsWhole()) return "The combination gives an answer.";
+    const bool isFirst = facts_.at == 0;
+    if (facts_.answers) {
+      return UpperFirst(Options(facts_.at, facts_.standing.front().options, "and")) +
+             (isFirst ? " may be chosen." : " may follow " + Before() + '.');
+    }
+    const std::string behind = isFirst ? "." : " for " + Before() + '.';
+    return facts_.IsUnlisted()
+               ? UpperFirst(Failing()) + " isn't listed" + behind
+               : "No " + InSentence(facts_.levels[facts_.at].listLabel) + " are listed" + behind;
+  }
+
+  std::string TellNodes() const {
+    if (facts_.at == 0) return "";
+    Names names;
+    for (const StandingNode& node : facts_.standing) names.push_back(node.name);
+    if (IsWhole()) {
+      const std::string first = " It is found in " + names.front();
+      names.erase(names.begin());
+      return first + (names.empty() ? "."
+                                    : "; " + Enumerate(names, "and") + ", which would fit too, " +
+                                          (names.size() == 1 ? "is" : "are") + " never asked.");
+    }
+    const std::string these = facts_.at == 1 ? "that choice" : "these choices";
+    if (names.size() == 1) return " One node stands for " + these + ", " + names.front() + '.';
+    return ' ' + std::to_string(names.size()) + " nodes stand for " + these + ", " +
+           Enumerate(names, "and") + "; the first one decides what is listed.";
+  }
+
+  // What the deciding node has instead.
+  std::string TellListed() const {
+    if (facts_.answers) return "";
+    const StandingNode& node = facts_.standing.front();
+    const std::string who = facts_.at == 0 ? " The tree" : " It";
+    if (node.isEmpty) return who + " has nothing below it.";
+    if (node.options.empty()) return who + " holds only ids that no list has.";
+    return who + " holds only " + Options(facts_.at, node.options, "and") + '.';
+  }
+
+  std::string TellHidden() const {
+    std::vector<int> ids;
+    for (const Explanation::Hidden& each : facts_.hidden) ids.push_back(each.id);
+    if (!facts_.IsUnlisted()) {
+      if (ids.empty()) return "";
+      return " Later nodes also hold " + Options(facts_.at, ids, "and") + ", which " +
+             (ids.size() == 1 ? "is" : "are") + " never listed.";
+    }
+    const auto found = std::find(ids.begin(), ids.end(), facts_.choices[facts_.at].id);
+    if (found == ids.end()) {
+      return facts_.standing.size() == 1 ? "" : " No other holds " + Failing() + '.';
+    }
+    const std::size_t node = facts_.hidden[static_cast<std::size_t>(found - ids.begin())].node;
+    return ' ' + UpperFirst(Failing()) + " stands in " + facts_.standing[node].name +
+           ", which comes too late.";
+  }
+
+  // The profiles and the like of a job are found by a search that goes back.
+  std::string TellFound() const {
+    const bool isAsked = facts_.IsJob() && facts_.choices.size() == facts_.levels.size();
+    if (!isAsked || !facts_.IsUnlisted() || facts_.found.empty()) return "";
+    return " A host that gives all ids at once still gets the profiles and dithers of " +
+           facts_.found + '.';
+  }
+
+  std::string TellChanges() const {
+    if (facts_.answers || facts_.choices.empty()) return "";
+    if (facts_.changes.empty()) return " No change of one choice alone gives an answer.";
+    std::string text;
+    for (std::size_t level = 0; level <= facts_.at; ++level) {
+      std::vector<int> ids;
+      for (const Explanation::Change& change : facts_.changes) {
+        if (change.level == level) ids.push_back(change.id);
+      }
+      if (ids.empty()) continue;
+      text += (text.empty() ? "" : ", or ") + Options(level, ids, "or") + " instead of " +
+              std::to_string(facts_.choices[level].id);
+    }
+    return ' ' + UpperFirst(text) + " would give an answer.";
+  }
+
+  const Explanation& facts_;
+};
+
+Object OptionRow(const Explanation& facts, std::size_t level, int id) {
+  const Choice& choice = facts.known[level].at(id);
+  return {{"id", nullptr, id},
+          {"displayName", nullptr, choice.displayName},
+          {"internalName", nullptr, OrNull(choice.internalName)}};
+}
+
+List NodeRows(const Explanation& facts) {
+  List rows;
+  for (const StandingNode& node : facts.standing) {
+    List options;
+    for (const int id : node.options) options.emplace_back(OptionRow(facts, facts.at, id));
+    rows.emplace_back(
+        Object{{"node", nullptr, node.name}, {"options", nullptr, std::move(options)}});
+  }
+  return rows;
+}
+
+List HiddenRows(const Explanation& facts) {
+  List rows;
+  for (const Explanation::Hidden& hidden : facts.hidden) {
+    Object row = OptionRow(facts, facts.at, hidden.id);
+    row.Add({"node", nullptr, facts.standing[hidden.node].name});
+    rows.emplace_back(std::move(row));
+  }
+  return rows;
+}
+
+List ChangeRows(const Explanation& facts) {
+  List rows;
+  for (const Explanation::Change& change : facts.changes) {
+    Object row = OptionRow(facts, change.level, change.id);
+    row.Add({"level", nullptr, facts.levels[change.level].key});
+    rows.emplace_back(std::move(row));
+  }
+  return rows;
+}
+
+}  // namespace
+
+Field TellWhy(const Explanation& facts) {
+  const std::string text = Teller(facts).Text();
+  const bool isWhole = facts.at == facts.levels.size();
+  return {facts.IsJob() ? "job" : "mediaSource", "",
+          Object{{"answers", nullptr, facts.answers},
+                 {"level", nullptr, isWhole ? Value() : Value(facts.levels[facts.at].key)},
+                 {"nodes", nullptr, NodeRows(facts)},
+                 {"hidden", nullptr, HiddenRows(facts)},
+                 {"found", nullptr, facts.found.empty() ? Value() : Value(facts.found)},
+                 {"changes", nullptr, ChangeRows(facts)},
+                 {"text", nullptr, text}},
+          text};
+}
