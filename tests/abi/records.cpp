@@ -1,7 +1,8 @@
-// Makes the records known to the description of the interface: the library itself names them only as
-// what vectors hold.
+// Makes the records known to the description of the interface: the library itself names them only
+// as what vectors hold.
 
 #include "qdf/definition/records.h"
+
 #include "qdf/hpimport/hpresource.h"
 
 struct Records {
