@@ -275,6 +275,9 @@ class Scanner {
         if (!SkipPast("-->", kOpen)) return;
       } else if (StartsWith("<?")) {
         if (!SkipPast("?>", kOpen)) return;
+      } else if (*at_ == '<' && (at_[1] != '!' || !Is(at_[2], kNameStart))) {
+        Fail("\"<\" begins nothing that a document type holds");
+        return;
       } else if (Is(*at_, kControl)) {
         Fail(kControlReason);
         return;
