@@ -201,11 +201,24 @@ AString AXMLTree::getName(AXMLTreeNode node) const { return pugi::xml_node(node.
 
 AString AXMLTree::getValue(AXMLTreeNode node) const {
   const pugi::xml_node element(node.element_);
-  const bool hasElements = static_cast<bool>(ElementFrom(element.first_child()));
+  const pugi::xml_node first = element.first_child();
+  if (IsText(first) && !first.next_sibling()) return first.value();
   AString value;
+  AString run;  // what stands between two child elements, also in pieces
+  bool isLayout = true;
+  bool hasElements = false;
   for (const pugi::xml_node part : element.children()) {
-    if (IsText(part) && !(hasElements && IsLayout(part))) value += part.value();
+    if (IsText(part)) {
+      run += part.value();
+      isLayout = isLayout && IsLayout(part);
+    } else if (IsElement(part)) {
+      hasElements = true;
+      if (!isLayout) value += run;
+      run.Empty();
+      isLayout = true;
+    }
   }
+  if (!isLayout || !hasElements) value += run;
   return value;
 }
 

@@ -33,6 +33,7 @@ TEST(XMLTree, ValuesAreAnElementsOwnText) {
               {"x<!-- y --> <![CDATA[z]]> ", "x z "},
               {"1<b>2</b>3", "13"},
               {"\n  <b/>\n 1 \n<b/>\n", "\n 1 \n"},
+              {"x<!-- y --> <b/> <!-- y -->\n", "x "},
               {"1<?pi 2?>3", "13"},
               {"&lt;&gt;&amp;&quot;&apos;", "<>&\"'"},
               {"&#65;&#x42;&#xe4;&#10;", "AB\xC3\xA4\n"},
