@@ -61,8 +61,13 @@ CCustomMediaInfoInter::CCustomMediaInfoInter(AFilePath& path)
 // Called by name: what a derived class makes of these operations is gone by now.
 CCustomMediaInfoInter::~CCustomMediaInfoInter() {
   CCustomMediaInfoInter::SaveCustomMediaFile();
+  Clear();
+}
+
+void CCustomMediaInfoInter::Clear() {
   CCustomMediaInfoInter::ClearStringMap(DisplayNameForMedia);
   CCustomMediaInfoInter::ClearStringMap(IccprofileForMedia);
+  IccprofileList.RemoveAll();
 }
 
 int CCustomMediaInfoInter::GetDisplayNameForMedia(const AString& media, AString& name) {
@@ -108,7 +113,8 @@ int CCustomMediaInfoInter::HasIccprofile(const AString& profile) {
 
 int CCustomMediaInfoInter::LoadCustomMediaFile() {
   if (CustomMediaPath.exists() == 0 || CustomMediaPath.isDirectory() != 0) return 1;
-  const auto take = [this](std::size_t, const char* text) {
+  bool whole = true;
+  const auto take = [&](std::size_t, const char* text) {
     CustomMediaLine line;
     if (ReadCustomMediaLine(text, line) != nullptr) return;
     const AString media = ToAString(line.media);
@@ -118,14 +124,19 @@ int CCustomMediaInfoInter::LoadCustomMediaFile() {
         IccprofileList.Add(value);
         break;
       case Kind::NameForMedia:
-        SetDisplayNameForMedia(media, value);
+        whole = SetDisplayNameForMedia(media, value) != 0 && whole;
         break;
       case Kind::ProfileForMedia:
-        SetIccprofileForMedia(media, value);
+        whole = SetIccprofileForMedia(media, value) != 0 && whole;
         break;
     }
   };
-  return OrOnNoMemory(0, [&] { return ForEachLine(CustomMediaPath, take); });
+  constexpr int kNoMemory = -1;
+  const int read = OrOnNoMemory(kNoMemory, [&] { return ForEachLine(CustomMediaPath, take); });
+  if (read != kNoMemory && whole) return read;
+  // Half a file must not replace the whole one at the next save.
+  Clear();
+  return 0;
 }
 
 int CCustomMediaInfoInter::SaveCustomMediaFile() {

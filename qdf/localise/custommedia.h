@@ -55,7 +55,8 @@ class CCustomMediaInfoInter {
 
   // Adds the lines of the file to what the object holds: profiles behind those that are there, also
   // those that the list has already; texts for media take the place of former ones. 1, also when no
-  // file or a folder stands at the path; 0 when the file can't be read.
+  // file or a folder stands at the path; 0 when the file can't be read. When memory runs out on the
+  // way, 0 as well, and the object then holds no entries: half a file would replace the whole one.
   virtual int LoadCustomMediaFile();
 
   // Replaces the file by what the object holds: the list in its order, then display names, then
@@ -70,6 +71,9 @@ class CCustomMediaInfoInter {
   virtual void ClearStringMap(AMapStringToPtr& map);
 
  private:
+  // Removes all entries.
+  void Clear();
+
   AFilePath CustomMediaPath;
   // To texts on the heap, never empty ones, that this object owns.
   AMapStringToPtr DisplayNameForMedia;
