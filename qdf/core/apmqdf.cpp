@@ -104,8 +104,9 @@ AString APMQDF::GetCustomMediaFile() {
 
 bool APMQDF::PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target) {
   if (source == nullptr) return false;
-  return Guarded(false, [&] {
-    target->Default = source->Default;
+  const int formerIDs = target->IDs.GetSize();
+  const int formerChildren = target->Children.GetSize();
+  const bool copied = Guarded(false, [&] {
     target->IDs.Append(source->IDs);
     const int count = source->Children.GetSize();
     for (int i = 0; i < count; ++i) {
@@ -115,6 +116,14 @@ bool APMQDF::PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target) {
     }
     return true;
   });
+  if (copied) {
+    target->Default = source->Default;
+    return true;
+  }
+  for (int i = formerChildren; i < target->Children.GetSize(); ++i) delete ChildAt(*target, i);
+  target->Children.SetSize(formerChildren, -1);
+  target->IDs.SetSize(formerIDs, -1);
+  return false;
 }
 
 void PMGetQDFInterface(AFilePath& path, APMQDF** document) {

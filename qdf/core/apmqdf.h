@@ -160,8 +160,7 @@ class APMQDF_EXPORT APMQDF {
   void PMWriteQDF(AFilePath& path);
 
   // Appends a deep copy of what is in and under the source to the target, and sets the target's
-  // Default. False, and nothing changed, for a null source; false also when memory runs out, and
-  // the part that was copied until then stays.
+  // Default. False, and nothing changed, for a null source and when memory runs out.
   bool PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target);
 
  private:
