@@ -1,0 +1,312 @@
+// Each allocation of each operation fails once, alone or with all behind it. The operation then
+// gives its failure result, throws nothing, leaks nothing, and what it was given and what stands in
+// its file is as it was before or as it shall be, never anything between.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "qdf/core/documentmembers.h"
+#include "qdf/definition/colorarchive.h"
+#include "qdf/hpimport/sweep.h"
+#include "qdf/hpimport/sweepverdict.h"
+#include "qdf/hpimport/update.h"
+#include "qdf/localise/custommedia.h"
+#include "qdf/localise/localise.h"
+#include "qdf/support/afile.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+#include "tests/hpimport/resources.h"
+#include "tests/memory/attempt.h"
+
+namespace {
+
+class NoMemory : public testing::Test {
+ protected:
+  NoMemory() {
+    for (const char* name : {"dyesub6.qdf", "dyesub6.txt", "plot36.qdf"}) {
+      folder_.Write(std::string("OutputDrivers/") + name,
+                    ReadFile(QDF_EXAMPLES "/OutputDrivers/" + std::string(name)));
+    }
+    Example();  // what is allocated once, at the first use, is there
+  }
+
+  const TempFolder& Folder() const { return folder_; }
+  std::string Path(const std::string& name) const { return folder_.Path("OutputDrivers/" + name); }
+  std::unique_ptr<APMQDF> Example() const { return LoadFile(Path("dyesub6.qdf")); }
+
+ private:
+  TempFolder folder_;
+  WorkingFolder in_{folder_.Path()};
+};
+
+TEST_F(NoMemory, LoadsGiveNothing) {
+  AFilePath path(Path("dyesub6.qdf").c_str());
+  WithEveryAllocation("load by name", [&](Attempt& attempt) {
+    APMQDF* document = nullptr;
+    attempt.Try([&] { PMGetQDFInterfaceFromName("plot36.qdf", &document); });
+    EXPECT_EQ(document == nullptr, attempt.Refused());
+    delete document;
+  });
+  WithEveryAllocation("load into an object", [&](Attempt& attempt) {
+    APMQDF document;
+    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return document.LoadQDFFile(path); }));
+  });
+  WithEveryAllocation("load of a tree", [&](Attempt& attempt) {
+    AXMLTree tree("RootElement");
+    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return tree.loadFromFile(path, 1); }));
+    AXMLTreeNode root;
+    EXPECT_EQ(tree.getRootNode(root) == 0, attempt.Refused());
+    EXPECT_EQ(tree.loadFault().Reason, attempt.Refused() ? "out of memory" : "");
+  });
+}
+
+// A question that is asked with a vector that holds something already.
+template <class Record>
+void CheckQuestion(const char* what, const std::function<int(std::vector<Record>&)>& ask) {
+  std::vector<Record> all;
+  ASSERT_NE(ask(all), 0) << what;
+  WithEveryAllocation(what, [&](Attempt& attempt) {
+    std::vector<Record> records(1);
+    const int result = attempt.Try([&] { return ask(records); });
+    EXPECT_EQ(result == 0, attempt.Refused());
+    EXPECT_EQ(records.size(), attempt.Refused() ? 1 : 1 + all.size());
+  });
+}
+
+TEST_F(NoMemory, QuestionsLeaveTheVector) {
+  const auto document = Example();
+  APMQDF& d = *document;
+  int at = 0;
+  AString name;
+  CheckQuestion<InkTypeInfo>("inks", [&](auto& all) { return d.GetInkTypeList(all, at); });
+  CheckQuestion<MediaTypeInfo>("media", [&](auto& all) { return d.GetMediaTypeList(1, all, at); });
+  CheckQuestion<PrintModeInfo>("print modes",
+                               [&](auto& all) { return d.GetPrintModeList(1, 1, all, at); });
+  CheckQuestion<ResolutionInfo>("resolutions",
+                                [&](auto& all) { return d.GetResolutionList(1, 1, 1, all, at); });
+  CheckQuestion<ColorModeInfo>("colour modes",
+                               [&](auto& all) { return d.GetColorModeList(1, 1, 1, 1, all, at); });
+  CheckQuestion<MediaSourceInfo>("sources",
+                                 [&](auto& all) { return d.GetMediaSourceList(all, at); });
+  CheckQuestion<MediaSizeInfo>("sizes", [&](auto& all) { return d.GetMediaSizeList(1, all, at); });
+  CheckQuestion<MarginInfo>("margins",
+                            [&](auto& all) { return d.GetMarginInfoList(1, 1, all, at); });
+  CheckQuestion<ColorModeInfo>("all colour modes",
+                               [&](auto& all) { return d.GetFullColorModeInfoList(all); });
+  CheckQuestion<MediaTypeInfo>("all media", [&](auto& all) { return d.GetFullMediaTypeList(all); });
+  CheckQuestion<AString>("profiles",
+                         [&](auto& all) { return d.GetProfileList(1, 1, 1, 1, 1, all, name); });
+  CheckQuestion<AString>("dithers",
+                         [&](auto& all) { return d.GetDitherList(1, 1, 1, 1, 1, all, name); });
+}
+
+// What a document notes down to answer faster is whole or isn't there.
+TEST_F(NoMemory, FirstQuestionsLeaveLaterOnesRight) {
+  std::vector<std::string> ids;
+  for (int id = 1; id <= 100; ++id) ids.push_back(std::to_string(id));
+  const DocumentText text{.MediaList = Entries(Join(ids, ";")),
+                          .Control = Control("[1[" + Join(ids, "[1[1[1]]];") + "[1[1[1]]]]]")};
+  WithEveryAllocation("first question", [&](Attempt& attempt) {
+    const auto document = Load(text);
+    std::vector<PrintModeInfo> modes;
+    int at = 0;
+    const auto ask = [&] { return document->GetPrintModeList(1, 99, modes, at); };
+    EXPECT_TRUE(attempt.FailsWhenRefused(ask));
+    modes.clear();
+    EXPECT_EQ(ask(), 1);
+    EXPECT_EQ(IDs(modes), "1");
+  });
+}
+
+TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
+  const std::string longText(100, 'x');
+  const auto document =
+      Load({.Definition = "<ProductType>" + longText + "</ProductType><MediaSourceList>" +
+                          Entries("1;2") + "</MediaSourceList><MediaSizeList>" + Entries("1") +
+                          "</MediaSizeList>",
+            .Control = Control("[1[1[1[1[1]]]]]",
+                               "<PrinterSpecificSetting>" + longText + "</PrinterSpecificSetting>"),
+            .SourceControl = SourceControl(">1[1,2[1];2[1]]")});
+  AString oemInfo;
+  document->GetOEMInfo(1, 1, 1, 1, 1, oemInfo);  // notes down the way to it
+  WithEveryAllocation("product type", [&](Attempt& attempt) {
+    AString text;
+    attempt.Try([&] { text = document->GetProdcutType(); });
+    EXPECT_EQ(text.GetLength() == 0, attempt.Refused());
+  });
+  WithEveryAllocation("printer specific text", [&](Attempt& attempt) {
+    AString text;
+    EXPECT_TRUE(
+        attempt.FailsWhenRefused([&] { return document->GetOEMInfo(1, 1, 1, 1, 1, text); }));
+    EXPECT_EQ(text.GetLength() == 0, attempt.Refused());
+  });
+  WithEveryAllocation("copy of a tree", [&](Attempt& attempt) {
+    CQDFNode target;
+    for (const unsigned int id : {7U, 8U, 9U, 10U}) target.IDs.Add(id);
+    for (int i = 0; i < 3; ++i) AddChildNode(target);
+    const std::string former = Dump(target);
+    CQDFNode* source = ChildAt(*document->GetMediaSourceTreeRoot(), 0);
+    const auto copy = [&] { return document->PMCopyMediaSourceTreeRoot(source, &target); };
+    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return copy() ? 1 : 0; }));
+    EXPECT_EQ(Dump(target) == former, attempt.Refused());
+  });
+}
+
+TEST_F(NoMemory, WritesGiveTheFormerFileOrTheNewOne) {
+  const auto document = Example();
+  AFilePath path(Path("written.qdf").c_str());
+  document->PMWriteQDF(path);
+  const std::string whole = ReadFile(Path("written.qdf"));
+  WithEveryAllocation("write", [&](Attempt& attempt) {
+    WriteFile(Path("written.qdf"), "former");
+    attempt.Try([&] { document->PMWriteQDF(path); });
+    EXPECT_EQ(ReadFile(Path("written.qdf")), attempt.Refused() ? "former" : whole);
+  });
+}
+
+// A table loses no more than the line for which there is no memory.
+TEST_F(NoMemory, LocalisesLineByLine) {
+  const std::string translation(100, 't');
+  Folder().Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
+  const DocumentText text{.InkList = Entries("1=One;2=Two"),
+                          .Definition = "<TranslationTable>t</TranslationTable>"};
+  bool met[2][2] = {};
+  WithEveryAllocation("localise", [&](Attempt& attempt) {
+    const auto document = Load(text);
+    attempt.Try([&] { PMLocalizeQDFByTranslationTable(document.get()); });
+    const auto inks = Records<InkTypeInfo>(DocumentMembers(*document).InkList);
+    const bool first = Str(inks[0].DisplayName) == translation;
+    const bool second = Str(inks[1].DisplayName) == translation;
+    EXPECT_TRUE(first || Str(inks[0].DisplayName) == "One");
+    EXPECT_TRUE(second || Str(inks[1].DisplayName) == "Two");
+    EXPECT_EQ(first && second, !attempt.Refused());
+    met[first][second] = true;
+  });
+  EXPECT_TRUE(met[false][false] && met[true][false] && met[false][true]);
+}
+
+using Media = CCustomMediaInfoInter;
+
+// Each begins with what the file says, and changes it or asks.
+TEST_F(NoMemory, CustomMediaKeepTheirFile) {
+  const std::string lines =
+      "key_Iccprofile=the first of the profiles\nkey_Iccprofile=the second of the profiles\n"
+      "key_DisplayName_ForMedia=a medium with a long name/a name that is long as well\n"
+      "key_Iccprofile_ForMedia=a medium with a long name/the profile of the medium\n";
+  const AString medium("a medium with a long name");
+  const AString text("a text that needs memory of its own");
+  const struct {
+    const char* what;
+    std::function<int(Media&)> work;
+  } rows[] = {
+      {"load again", [](Media& media) { return media.LoadCustomMediaFile(); }},
+      {"save", [](Media& media) { return media.SaveCustomMediaFile(); }},
+      {"add a profile", [&](Media& media) { return media.AddIccprofile(text); }},
+      {"set a name", [&](Media& media) { return media.SetDisplayNameForMedia(medium, text); }},
+      {"set a profile", [&](Media& media) { return media.SetIccprofileForMedia(text, text); }},
+      {"get a name",
+       [&](Media& media) {
+         AString name;
+         const int result = media.GetDisplayNameForMedia(medium, name);
+         return name.GetLength() > 0 ? result : 0;
+       }},
+      {"get the profiles",
+       [&](Media& media) {
+         AStringArray profiles;
+         const int result = media.GetIccprofileList(profiles);
+         return profiles.GetSize() > 0 ? result : 0;
+       }},
+  };
+  AFilePath path(Path("media.txt").c_str());
+  for (const auto& row : rows) {
+    WithEveryAllocation(row.what, [&](Attempt& attempt) {
+      WriteFile(Path("media.txt"), lines);
+      {
+        Media media(path);
+        media.LoadCustomMediaFile();
+        EXPECT_TRUE(attempt.FailsWhenRefused([&] { return row.work(media); }));
+      }
+      // What a set that failed removes is told to be gone.
+      const bool mayLack = !attempt.Refused() || std::string(row.what).find("set") == 0;
+      EXPECT_TRUE(mayLack || ReadFile(Path("media.txt")) == lines);
+    });
+  }
+  WithEveryAllocation("whole life", [&](Attempt& attempt) {
+    WriteFile(Path("media.txt"), lines);
+    attempt.Try([&] {
+      Media* media = nullptr;
+      PMGetCCustomMediaInfoInterFromName("media.txt", &media);
+      delete media;
+      return 0;
+    });
+    EXPECT_EQ(ReadFile(Path("media.txt")), lines);
+  });
+}
+
+TEST_F(NoMemory, ArchivesTellThatTheyLackSomething) {
+  AFilePath path(Path("archive").c_str());
+  ANewColorOpt option;
+  SetField(option.Shape, "a shape with a name that is long");
+  WithEveryAllocation("write to an archive", [&](Attempt& attempt) {
+    WriteFile(Path("archive"), "former");
+    const int saved = attempt.Try([&] {
+      AArchive archive(path, AArchive::Direction::Writing);
+      archive << option;
+      return archive.Close();
+    });
+    EXPECT_EQ(saved == 0, attempt.Refused());
+    EXPECT_EQ(ReadFile(Path("archive")) == "former", attempt.Refused());
+  });
+  WithEveryAllocation("read from an archive", [&](Attempt& attempt) {
+    ANewColorOpt read;
+    const int whole = attempt.Try([&] {
+      AArchive archive(path, AArchive::Direction::Reading);
+      archive >> read;
+      return archive.Close();
+    });
+    EXPECT_EQ(whole == 0, attempt.Refused());
+    EXPECT_TRUE(attempt.Refused() || read == option);
+  });
+}
+
+TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
+  WriteResource(Folder(), "tree", {});
+  const AFilePath path("dyesub6.qdf");
+  const AFilePath tree("tree");
+  PMUpdateQDF(path, tree);
+  const std::string whole = ReadFile("dyesub6.qdf");
+  EXPECT_NE(LoadFile("dyesub6.qdf"), nullptr);
+  WithEveryAllocation("update", [&](Attempt& attempt) {
+    WriteFile("dyesub6.qdf", "former");
+    attempt.Try([&] { PMUpdateQDF(path, tree); });
+    // A sort does without the memory that it asks for.
+    const std::string bytes = ReadFile("dyesub6.qdf");
+    EXPECT_TRUE(bytes == whole || (attempt.Refused() && bytes == "former")) << bytes.size();
+  });
+  AFilePath resources("tree");
+  WithEveryAllocation("sweep", [&](Attempt& attempt) {
+    Folder().Write("tree/Empty/file", "");
+    attempt.Try([&] { PMCheckHPXMLVersion(resources); });
+    EXPECT_NE(AFilePath("tree/Glossy/best/Glossy_best.xml").exists(), 0);
+    EXPECT_TRUE(attempt.Refused() || AFilePath("tree/Empty").exists() == 0);
+  });
+  WithEveryAllocation("examination", [&](Attempt& attempt) {
+    EXPECT_EQ(attempt.Try([&] { return CheckHPFolder("tree/Glossy", 1); }), 0);
+  });
+}
+
+TEST_F(NoMemory, TextFilesDoNotOpen) {
+  AFilePath path(Path("dyesub6.txt").c_str());
+  for (const unsigned int mode : {AFile::kRead, AFile::kCreate}) {
+    WithEveryAllocation("open", [&](Attempt& attempt) {
+      AStdioFile file;
+      EXPECT_TRUE(attempt.FailsWhenRefused(
+          [&] { return file.Open(path, mode, nullptr, AFile::kAnyFile); }));
+    });
+  }
+}
+
+}  // namespace
