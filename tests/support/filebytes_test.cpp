@@ -1,0 +1,128 @@
+// Files with unusual names and places, and files that change while they are read.
+
+#include "qdf/support/filebytes.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <memory>
+#include <string>
+
+#include "qdf/localise/custommedia.h"
+#include "qdf/support/savebytes.h"
+#include "tests/children.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+
+namespace {
+
+// Loads the document by its name, writes it in its place, loads it again.
+bool LoadsAndWrites(const std::string& name) {
+  APMQDF* document = nullptr;
+  PMGetQDFInterfaceFromName(name.c_str(), &document);
+  if (document == nullptr) return false;
+  AFilePath path("OutputDrivers");
+  path += name.c_str();
+  document->PMWriteQDF(path);
+  delete document;
+  PMGetQDFInterfaceFromName(name.c_str(), &document);
+  const bool again = document != nullptr;
+  delete document;
+  return again && ReadFile(static_cast<const char*>(path)).find("<?xml") == 0;
+}
+
+TEST(Files, MayHaveNamesOfAnyBytes) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  std::string all;
+  for (int c = 1; c < 256; ++c) {
+    if (c != '/') all += static_cast<char>(c);
+  }
+  for (std::size_t at = 0; at < all.size(); at += 50) {
+    const std::string name = all.substr(at, 50);
+    folder.Write("OutputDrivers/" + name, DocumentText{}.Text());
+    EXPECT_TRUE(LoadsAndWrites(name)) << name;
+    CCustomMediaInfoInter* media = nullptr;
+    PMGetCCustomMediaInfoInterFromName((name + "m").c_str(), &media);
+    media->AddIccprofile("p");
+    delete media;
+    EXPECT_EQ(ReadFile("OutputDrivers/" + name + "m"), "key_Iccprofile=p\n") << name;
+  }
+}
+
+TEST(Files, MayStandDeepDown) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  std::string name;
+  while (name.size() < 3800) name += std::string(199, 'f') + "/";
+  folder.Write("OutputDrivers/" + name + "d.qdf", DocumentText{}.Text());
+  EXPECT_TRUE(LoadsAndWrites(name + "d.qdf"));
+  // One character more than the system takes.
+  const std::string tooLong(4096, 'f');
+  FileBytes bytes;
+  EXPECT_STREQ(ReadFileBytes(tooLong.c_str(), bytes), "the name is too long");
+  EXPECT_FALSE(LoadsAndWrites(name + tooLong));
+}
+
+TEST(Files, AreNoSockets) {
+  const TempFolder folder;
+  const WorkingFolder in(folder.Path());
+  const sockaddr_un address{AF_UNIX, "socket"};
+  const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  FileBytes bytes;
+  EXPECT_STREQ(ReadFileBytes("socket", bytes), "it can't be read");
+  EXPECT_EQ(SaveFileBytes("socket", "bytes"), 0);
+  close(server);
+}
+
+TEST(Files, WithoutPermissionAreNotRead) {
+  const TempFolder folder;
+  const std::string path = folder.Write("d.qdf", DocumentText{}.Text());
+  chmod(folder.Path().c_str(), 0755);
+  chmod(path.c_str(), 0);
+  EXPECT_EQ(InChild([&] {
+              DropPrivileges();
+              FileBytes bytes;
+              const std::string reason = ReadFileBytes(path.c_str(), bytes);
+              return reason == "no permission to read it" && LoadFile(path) == nullptr ? 0 : 1;
+            }),
+            0);
+}
+
+// Whatever part of it a reader sees, a document is taken whole or not at all.
+TEST(Files, MayChangeWhileTheyAreRead) {
+  const TempFolder folder;
+  const std::string text = DocumentText{.InkList = Entries("1;2;3")}.Text();
+  const std::string path = folder.Write("d.qdf", text);
+  const pid_t writer = fork();
+  for (int i = 0; writer == 0 && i < 100'000; ++i) WriteFile(path, text);
+  if (writer == 0) _exit(0);
+  for (int i = 0; i < 1000; ++i) {
+    const auto document = LoadFile(path);
+    if (document == nullptr) continue;
+    std::vector<InkTypeInfo> inks;
+    document->GetFullInkTypeList(inks);
+    EXPECT_EQ(IDs(inks), "1,2,3");
+  }
+  kill(writer, SIGKILL);
+  waitpid(writer, nullptr, 0);
+}
+
+// The system's own files tell a size that they don't have, as does a file that shrinks.
+TEST(Files, MayBeShorterThanTheyTell) {
+  const char* path = "/sys/kernel/mm/transparent_hugepage/enabled";
+  FileBytes bytes;
+  if (access(path, R_OK) != 0) GTEST_SKIP() << "there is no such file here";
+  EXPECT_EQ(ReadFileBytes(path, bytes), nullptr);
+  EXPECT_EQ(bytes.data[bytes.size], '\0');
+  EXPECT_LT(bytes.size, 1000U);
+  EXPECT_GT(bytes.size, 0U);
+}
+
+}  // namespace
