@@ -128,6 +128,23 @@ TEST(DeriveColorModes, AreMadeOnceForALayoutAndADepth) {
   EXPECT_EQ(All({{.format = "kcmy"}, {.format = "CMYK"}, {.format = ""}, {}}).colorModes, first);
 }
 
+TEST(Derive, CountsWhatAListHoldsAlready) {
+  Resources resources;
+  AddTo(resources, {});
+  APtrArray none;
+  OwnedItems<MediaTypeInfo> media;
+  OwnedItems<ResolutionInfo> resolutions;
+  OwnedItems<ColorModeInfo> colorModes;
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(DeriveMediaList(resources, media, none), 1);
+    EXPECT_EQ(DeriveResolutionList(resources, resolutions), 1);
+    EXPECT_EQ(DeriveColorModeList(resources, colorModes), 1);
+  }
+  EXPECT_EQ(DumpMedia(media), "1=Glossy/Gloss;1=Glossy/Gloss");
+  EXPECT_EQ(resolutions.GetSize(), 1);
+  EXPECT_EQ(colorModes.GetSize(), 2);
+}
+
 TEST(DeriveTree, GivesEachResourceAPath) {
   EXPECT_EQ(Tree({{}}), ">1[1>1[1>1[1[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
   // All names of a media in one node; below the first ink only; defaults by display name.

@@ -142,6 +142,7 @@ TEST_F(Archive, ThrowsWhenItIsOpenForReading) {
       ADD_FAILURE() << "no exception";
     } catch (const AArchiveException& exception) {
       EXPECT_EQ(exception.Cause, 2);
+      EXPECT_STREQ(exception.what(), "the archive is open for reading");
       EXPECT_EQ(exception.FileName, path_.c_str());
     }
   }

@@ -140,6 +140,9 @@ TEST(AFilePath, JoinsWithOneSeparator) {
     AFilePath path(row.start);
     path += row.added;
     EXPECT_STREQ(path, row.path);
+    AFilePath same(row.start);
+    same += AString(row.added);
+    EXPECT_STREQ(same, row.path);
     AString name("former");
     path.getFileName(name);
     EXPECT_EQ(name, row.name) << row.path;

@@ -32,7 +32,7 @@ constexpr std::string_view kRefused =
     // Elements.
     "<a>|<a><b></a></b>|<a></A>|</a>|<a></a b>|<ab></a>|<a></ab>|<a|<a/ >|< a/>|<1a/>|<a><-b/></a>|"
     "<a$/>|<a>1 < 2</a>|<a><!ELEMENT b></a>|<a><!DOCTYPE b></a>|<!DOCTYPE a><!DOCTYPE a><a/>|"
-    "<!DOCTYPE a [<!ENTITY b ''>|<!DOCTYPE a [<b> <a/>|"
+    "<!DOCTYPE a [<!ENTITY b ''>|<!DOCTYPE a [<b> <a/>|<!DOCTYPE a \x01><a/>|"
     // Attributes.
     "<a b='1' b='2'/>|<a b='1' c='' d='' b=''/>|<a b='1'c='2'/>|<a b/>|<a b=1/>|<a b='<'/>|<a b='1|"
     "<a 1b=''/>|<a b='\x01'/>|<a b='' c='' d='' e='' f='' g='' h='' i='' j='' k='' j=''/>|"
