@@ -1,9 +1,5 @@
 #include "qdf/control/idlist.h"
 
-#include <string>
-
-#include "qdf/support/numbers.h"
-#include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 
 namespace {
@@ -15,17 +11,10 @@ std::string_view Behind(std::string_view text, char mark) {
 }
 
 // The known ids among the pieces between commas, each once.
-void ReadPieces(std::string_view text, const LevelIDs& level, UniqueIDs& ids) {
-  while (true) {
-    const std::size_t comma = text.find(',');
-    const std::string_view piece = Trimmed(text.substr(0, comma));
-    if (!piece.empty()) {
-      const auto id = static_cast<std::uint32_t>(ReadInt(std::string(piece).c_str()));
-      if (level.Holds(id)) ids.Add(id);
-    }
-    if (comma == std::string_view::npos) return;
-    text.remove_prefix(comma + 1);
-  }
+void ReadPieces(std::string_view listed, const LevelIDs& level, UniqueIDs& ids) {
+  ForEachIDPiece(listed, [&](std::string_view, std::uint32_t id) {
+    if (level.Holds(id)) ids.Add(id);
+  });
 }
 
 }  // namespace
@@ -34,27 +23,31 @@ LevelIDs::LevelIDs(const ADWordArray& ids) : ids_(ids) {
   for (const std::uint32_t id : ids) known_.Add(id);
 }
 
-void ParseIDList(std::string_view text, const LevelIDs& level, ADWordArray& ids) {
-  if (EqualNoCase(Trimmed(text), "ALL")) {
-    ids.Copy(level.All());
-    return;
-  }
-  const bool exclusion = text.find('-') != std::string_view::npos;
-  std::string_view listed = exclusion ? Behind(text, '-') : text;
-  listed = Behind(listed, '(');
-  listed = listed.substr(0, listed.find(')'));
+IDListText SplitIDList(std::string_view text) {
+  IDListText parts;
+  parts.all = EqualNoCase(Trimmed(text), "ALL");
+  if (parts.all) return parts;
+  parts.exclusion = text.find('-') != std::string_view::npos;
+  parts.listed = Behind(parts.exclusion ? Behind(text, '-') : text, '(');
+  parts.listed = parts.listed.substr(0, parts.listed.find(')'));
+  return parts;
+}
 
-  if (!exclusion) {
+void ParseIDList(std::string_view text, const LevelIDs& level, ADWordArray& ids) {
+  const IDListText parts = SplitIDList(text);
+  if (parts.all) {
+    ids.Copy(level.All());
+  } else if (parts.exclusion) {
+    ADWordArray excluded;
+    UniqueIDs unique(excluded);
+    ReadPieces(parts.listed, level, unique);
+    for (const std::uint32_t id : level.All()) {
+      if (!unique.Holds(id)) ids.Add(id);
+    }
+  } else {
     ids.SetSize(0, -1);
     UniqueIDs unique(ids);
-    ReadPieces(listed, level, unique);
-    return;
-  }
-  ADWordArray excluded;
-  UniqueIDs unique(excluded);
-  ReadPieces(listed, level, unique);
-  for (const std::uint32_t id : level.All()) {
-    if (!unique.Holds(id)) ids.Add(id);
+    ReadPieces(parts.listed, level, unique);
   }
 }
 
