@@ -7,7 +7,7 @@ file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/qdf/*/*.h
   ${PROJECT_SOURCE_DIR}/tool/*.h ${PROJECT_SOURCE_DIR}/tool/*/*.h)
 
 set(stamps)
-foreach(target apmqdf-objects qdf)
+foreach(target apmqdf-objects qdf-parts qdf)
   if(CLANG_TIDY AND TARGET ${target})
     get_target_property(sources ${target} SOURCES)
     foreach(source IN LISTS sources)
