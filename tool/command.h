@@ -60,6 +60,8 @@ struct Answer {
   ExitCode code = kAnswered;
   // What the person is asked once the report is shown; none when all is done.
   std::shared_ptr<const Question> question{};
+  // Lays the report out for people; without it the report's own shape decides.
+  std::function<std::string(bool onTerminal)> text{};
 };
 
 // Whether to do what can't be undone.

@@ -35,10 +35,10 @@ Answer Ask(const Question& question, bool json) {
 int Run(const Command& command, const Invocation& invocation) {
   for (const std::string& folder : invocation.folders) ChangeFolder(folder);
   Answer answer = command.run(invocation.arguments);
-  PrintReport(answer.report, invocation.json);
+  PrintAnswer(answer, invocation.json);
   while (answer.question != nullptr) {
     answer = Ask(*answer.question, invocation.json);
-    PrintReport(answer.report, invocation.json);
+    PrintAnswer(answer, invocation.json);
   }
   return answer.code;
 }

@@ -29,8 +29,15 @@ std::string Variable(const char* name) {
   return value != nullptr ? value : "";
 }
 
+bool IsTerminal() { return isatty(STDOUT_FILENO) != 0; }
+
 bool WantsBold() {
-  return isatty(STDOUT_FILENO) != 0 && Variable("NO_COLOR").empty() && Variable("TERM") != "dumb";
+  return IsTerminal() && Variable("NO_COLOR").empty() && Variable("TERM") != "dumb";
+}
+
+std::string Render(const Answer& answer, bool asJson) {
+  if (asJson) return RenderJson(answer.report);
+  return answer.text ? answer.text(IsTerminal()) : RenderText(answer.report, WantsBold());
 }
 
 }  // namespace
@@ -41,9 +48,7 @@ void Print(std::string_view text) {
   throw Failure(kNoAnswer, std::string("standard output: ") + std::strerror(error));
 }
 
-void PrintReport(const Object& report, bool asJson) {
-  Print(asJson ? RenderJson(report) : RenderText(report, WantsBold()));
-}
+void PrintAnswer(const Answer& answer, bool asJson) { Print(Render(answer, asJson)); }
 
 void Complain(std::string_view line) {
   // Nobody is left to hear that even this can't be written.

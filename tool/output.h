@@ -5,14 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "tool/command.h"
 #include "tool/failure.h"
-#include "tool/report.h"
 
 // To standard output, whole. A reader that has gone away has got what it wanted: that is no
 // failure. Anything else that keeps the text from being written throws one.
 void Print(std::string_view text);
 
-void PrintReport(const Object& report, bool asJson);
+void PrintAnswer(const Answer& answer, bool asJson);
 
 // To standard error, as a line that begins with the program's name.
 void Complain(std::string_view line);
