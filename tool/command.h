@@ -93,3 +93,4 @@ extern const Command kWriteCommand;
 extern const Command kResourcesCommand;
 extern const Command kUpdateCommand;
 extern const Command kSweepCommand;
+extern const Command kCheckCommand;

@@ -14,9 +14,9 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kShowCommand,      &kNarrowCommand, &kTreeCommand,    &kDiffCommand,
-    &kLocaliseCommand,  &kMediaCommand,  &kOptionsCommand, &kWriteCommand,
-    &kResourcesCommand, &kUpdateCommand, &kSweepCommand,
+    &kShowCommand,  &kNarrowCommand,    &kTreeCommand,   &kCheckCommand,
+    &kDiffCommand,  &kLocaliseCommand,  &kMediaCommand,  &kOptionsCommand,
+    &kWriteCommand, &kResourcesCommand, &kUpdateCommand, &kSweepCommand,
 };
 
 // As with git, an empty folder changes nothing.

@@ -11,7 +11,8 @@ _qdf_documents() { # FOLDER, WORD
   _qdf_paths f "$1" "$2"
 }
 
-# Sets the options of a command, and what each of its arguments is.
+# Sets the options of a command, and what each of its arguments is. Where there may be any number of
+# the first kind, the next argument is always one of these.
 _qdf_grammar() { # COMMAND
   case $1 in
     "") options="-C --help --version" arguments=(commands) ;;
@@ -23,6 +24,7 @@ _qdf_grammar() { # COMMAND
       ;;
     tree) options="--depth" arguments=(documents) ;;
     diff) arguments=(documents documents) ;;
+    check) options="--ignore --werror" arguments=(documents) places=0 ;;
     localise) options="--output --untranslated" arguments=(documents) ;;
     media) options="--set-name --set-profile --add-profile --remove" arguments=(documents) ;;
     options) arguments=(files files) ;;
@@ -41,7 +43,7 @@ _qdf_value() { # OPTION
     -o | --output) value=files ;;
     --list) value=lists ;;
     --depth | --ink | --media | --print-mode | --resolution | --color-mode | --source | --size) ;&
-    --set-name | --set-profile | --add-profile | --remove) value=unknown ;;
+    --set-name | --set-profile | --add-profile | --remove | --ignore) value=unknown ;;
     *) value= ;;
   esac
 }
@@ -81,7 +83,7 @@ _qdf() {
   fi
 
   local options='' arguments=() lists commands
-  commands="show narrow tree diff localise media options write resources update sweep"
+  commands="show narrow tree check diff localise media options write resources update sweep"
   lists="inks media print-modes resolutions color-modes media-sources media-sizes margins"
   _qdf_grammar "$command"
   if [[ -z $value && $word == -* ]]; then value=options; fi

@@ -1,0 +1,77 @@
+// Each code by the example that docs/checks.md has for it.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/check/codetables.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+#include "tool/check/examine.h"
+
+namespace {
+
+// The codes found, "unreadable" for a text that isn't there.
+std::vector<std::string> CodesIn(const std::string& text) {
+  const TempFolder folder;
+  const std::string path =
+      text.empty() ? folder.Path("nothing.qdf") : folder.Write("demo.qdf", text);
+  std::vector<std::string> codes;
+  for (const check::Finding& finding : check::Examine(path).findings) {
+    codes.emplace_back(finding.rule->name);
+    EXPECT_NE(finding.message, "") << codes.back();
+    EXPECT_NE(finding.hint, "") << codes.back();
+  }
+  return codes;
+}
+
+// A hundred elements of a level under each of a hundred, all with the same many ids.
+std::string OverlappingText() {
+  std::string entries = "1";
+  for (int id = 2; id <= 250; ++id) entries += ";" + std::to_string(id);
+  const std::string media = Join(std::vector<std::string>(100, "ALL"), ";");
+  const std::string inks = Join(std::vector<std::string>(100, "1[" + media + "]"), ";");
+  return DocumentText{.MediaList = Entries(entries), .Control = Control(">1[" + inks + "]")}.Text();
+}
+
+TEST(Codes, PageAndProgramTellTheSame) {
+  const CodeTables tables = ReadCodeTables();
+  ASSERT_EQ(tables.rows.size(), check::Rules().size());
+  for (std::size_t i = 0; i < tables.rows.size(); ++i) {
+    const check::Rule& rule = check::Rules()[i];
+    EXPECT_EQ(tables.rows[i].code, rule.name);
+    EXPECT_EQ(tables.rows[i].severity, check::NameOf(rule.severity)) << rule.name;
+    EXPECT_EQ(tables.rows[i].meaning, rule.meaning) << rule.name;
+  }
+}
+
+TEST(Codes, DocumentOfThePageHasNoFindings) {
+  EXPECT_THAT(CodesIn(ReadCodeTables().document), testing::IsEmpty());
+}
+
+// What may come along with the finding of an example.
+constexpr const char* kConsequences[] = {"element-unknown", "no-colorants", "no-ids",
+                                         "entry-unused",    "dead-end",     "option-hidden",
+                                         "dithers-hidden",  "entry-name",   "name-missing"};
+
+TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
+  const CodeTables tables = ReadCodeTables();
+  for (const CodeRow& row : tables.rows) {
+    SCOPED_TRACE(row.code);
+    std::string text;
+    if (row.code == "reach-unfinished") {
+      text = OverlappingText();
+    } else if (row.code != "unreadable") {
+      ASSERT_FALSE(row.found.empty());
+      text = FoundText(tables, row);
+    }
+    const std::vector<std::string> found = CodesIn(text);
+    const std::vector<std::string> mended = CodesIn(MendedText(tables, row));
+    EXPECT_THAT(found, testing::Contains(row.code));
+    EXPECT_THAT(mended, testing::Not(testing::Contains(row.code)));
+    EXPECT_THAT(mended, testing::IsEmpty());
+    if (row.found.empty()) continue;
+    EXPECT_THAT(found, testing::Each(testing::AnyOf(row.code, testing::AnyOfArray(kConsequences))));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,171 @@
+// qdf check as a person or an editor runs it.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/check/codetables.h"
+#include "tests/files.h"
+#include "tests/tool/run.h"
+
+namespace {
+
+using Json = nlohmann::json;
+
+// Places and words, one row for each kind of message that the examples of the page don't show. A
+// quotation mark is written as `.
+struct MessageRow {
+  const char *mended, *found, *message, *hint;
+};
+
+constexpr MessageRow kMessages[] = {
+    {"<InkList>", "<InkLst/><InkList>",
+     "7:6: warning: nobody reads InkLst in Definition [element-unknown]",
+     "did you mean `InkList`?"},
+    {"<Ink ID=`1`", "<Media ID=`1`><PrintMode/></Media><Ink ID=`1`",
+     "39:6: warning: nobody reads Media in Control_Definition, nor what is under it (1 element) "
+     "[element-unknown]",
+     "Media is read in Ink"},
+    {"<Ink ID=`1` D", "<Ink ID=`1` Defaultmedia=`2` D",
+     "39:17: warning: nobody reads the attribute Defaultmedia in Ink [attribute-unknown]",
+     "did you mean `DefaultMedia`?"},
+    {"<Media ID=`2`", "<Media ID=`-(1,2)`",
+     "51:18: warning: this Media vanishes with the 4 elements under it: its ID `-(1,2)` excludes "
+     "all media [no-ids]",
+     "correct it, or take the element out"},
+    {"<Media ID=`2`", "<Media ID=`2, 7,&#56;, 9,10,11,12`",
+     "51:18: warning: MediaList has no media with the ids 7, 8, 9, 10, 11 and 1 more [id-unknown]",
+     "correct it, or take it out"},
+    {"<Media ID=`2`", "<Media ID=`2,ALL`",
+     "51:20: warning: `ALL` in the ID `2,ALL` isn't a whole number: only a leading number counts "
+     "[idlist-malformed]",
+     "`ALL` counts only when it stands alone"},
+    {"<Media ID=`1` DefaultPrintMode=`1`", "<Media ID=`1` DefaultPrintMode=`2`",
+     "40:39: warning: DefaultPrintMode `2` preselects nothing: print mode 2 (`Best`) isn't below "
+     "this element [default-unknown]",
+     "name one that stands below, or take the attribute out"},
+    {"<Size>9 9 9 9</Size>", "<Size>9 9 nine 9</Size>",
+     "31:69: warning: `nine` in Size isn't a number: reading stops there, and what is missing "
+     "stays "
+     "0 [number-malformed]",
+     "write 4 numbers with commas or blanks between them"},
+    {"Name=`Fine`", "Name=`fine`",
+     "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
+     "only [name-case]",
+     "spell it the same way everywhere"},
+};
+
+std::string WithQuotes(std::string text) {
+  std::replace(text.begin(), text.end(), '`', '"');
+  return text;
+}
+
+std::string PageWith(const std::string& mended, const std::string& found) {
+  return FoundText(ReadCodeTables(), {"", "", "", {WithQuotes(found)}, {WithQuotes(mended)}});
+}
+
+TEST(CheckCommand, TellsWhereAndWhatInWords) {
+  const TempFolder folder;
+  for (const MessageRow& row : kMessages) {
+    folder.Write("d.qdf", PageWith(row.mended, row.found));
+    const Outcome outcome = RunTool({"check", "d.qdf"}, {folder.Path()});
+    const std::string expected = std::string(row.message) + "\n  hint: " + row.hint + "\n";
+    EXPECT_THAT(outcome.out, testing::HasSubstr("d.qdf:" + WithQuotes(expected)));
+  }
+}
+
+TEST(CheckCommand, ShowsOnATerminalWhatThePageShows) {
+  const TempFolder folder;
+  folder.Write("demo.qdf",
+               PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
+  std::istringstream lines(OnTerminal({"check", "demo.qdf"}, {folder.Path()}));
+  std::string shown;
+  for (std::string line; std::getline(lines, line) && line.back() == '\r';) {
+    shown += "    " + line.substr(0, line.size() - 1) + '\n';
+  }
+  EXPECT_THAT(ReadFile(QDF_EXAMPLES "/../docs/checks.md"),
+              testing::HasSubstr("\n\n" + shown + '\n'));
+}
+
+TEST(CheckCommand, CutsLongLinesAndKeepsThePlace) {
+  const TempFolder folder;
+  const std::string blanks(70, ' ');
+  folder.Write("d.qdf", "<QDF_Info>\n\t<Definition>\n" + blanks + "<W\xC3\xA4rme a='\xE9'>" +
+                            std::string(90, 'x') + "</W\xC3\xA4rme>\n</Definition></QDF_Info>");
+  const std::string shown = OnTerminal({"check", "d.qdf"}, {folder.Path()});
+  EXPECT_THAT(shown, testing::HasSubstr(" 2 |  <Definition>\r\n   |   ^~~~~~~~~~\r\n"));
+  EXPECT_THAT(shown, testing::HasSubstr("d.qdf:3:72: "));
+  EXPECT_THAT(shown, testing::HasSubstr(" 3 | ..." + std::string(59, ' ') +
+                                        "<W\xC3\xA4rme a='\\xE9'>" + std::string(27, 'x') +
+                                        "...\r\n   | " + std::string(63, ' ') + "^~~~~\r\n"));
+}
+
+TEST(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
+  const TempFolder folder;
+  folder.Write("bad.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
+  const std::string reason = "this end tag does not match its start tag";
+  EXPECT_EQ(RunTool({"check", "bad.qdf", "none.qdf"}, {folder.Path()}),
+            (Outcome{1, "bad.qdf:2:15: error: " + reason +
+                            " [not-well-formed]\n"
+                            "  hint: correct the XML here; nothing else is examined until then\n"
+                            "bad.qdf: 1 error\n"
+                            "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
+                            "  hint: correct the path, or what it leads to\n"
+                            "OutputDrivers/none.qdf: 1 error\n"}));
+  EXPECT_EQ(RunTool({"show", "bad.qdf"}, {folder.Path()}),
+            (Outcome{1, "", "qdf: bad.qdf:2:15: " + reason + "\n"}));
+}
+
+struct UsageRow {
+  const char* words;
+  int code;
+  const char *out, *err;
+};
+
+TEST(CheckCommand, AnswersWithExitCodes) {
+  const TempFolder folder;
+  folder.Write("OutputDrivers/good.qdf", ReadCodeTables().document);
+  folder.Write("OutputDrivers/Bad.QDF", "<QDF_Info/>");
+  folder.Write("OutputDrivers/good.txt", "");
+  folder.Write("OutputDrivers/sub/other.qdf", "");
+  folder.Write("warns/d.qdf", PageWith("`1,2`", "`1,2` a=``"));
+  folder.Write("empty/readme", "");
+  const std::string warning =
+      "warns/d.qdf:52:29: warning: nobody reads the attribute a in PrintMode "
+      "[attribute-unknown]\n  hint: take it out\nwarns/d.qdf: 1 warning\n";
+  const std::string both =
+      "OutputDrivers/Bad.QDF: no findings\nOutputDrivers/good.qdf: no findings\n";
+  const UsageRow rows[] = {
+      {"good.qdf", 0, "OutputDrivers/good.qdf: no findings\n", ""},
+      {"warns", 0, warning.c_str(), ""},
+      {"warns --werror", 1, warning.c_str(), ""},
+      {"warns/d.qdf --werror --ignore attribute-unknown", 0, "warns/d.qdf: no findings\n", ""},
+      {"--ignore definition-missing OutputDrivers", 0, both.c_str(), ""},
+      {"warns --ignore attribute-unkown", 2, "",
+       "qdf: there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
+       "element-unknown, id-unknown\n"},
+      {"empty", 2, "", "qdf: there is no *.qdf in \"empty\"\n"},
+  };
+  for (const UsageRow& row : rows) {
+    EXPECT_EQ(RunTool(SplitWords(std::string("check ") + row.words), {folder.Path()}),
+              (Outcome{row.code, row.out, row.err}))
+        << row.words;
+  }
+}
+
+TEST(CheckCommand, GivesAnObjectForEachFinding) {
+  const TempFolder folder;
+  folder.Write("d.qdf", PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
+  const Json report = RunJson({"check", "d.qdf"}, {folder.Path()});
+  EXPECT_EQ(report["documents"],
+            Json::parse(R"([{"document": "d.qdf", "errors": 0, "warnings": 3, "notes": 0}])"));
+  ASSERT_EQ(report["findings"].size(), 3U);
+  EXPECT_EQ(report["findings"][0], Json::parse(R"({
+      "document": "d.qdf", "code": "id-twice", "severity": "warning",
+      "line": 12, "column": 21, "length": 1, "path": "/QDF_Info/Definition/MediaList/MediaDef[2]/ID",
+      "message": "this medium is dropped: \"Plain\" on line 11 has the id 1 already",
+      "hint": "give it an ID of its own"})"));
+}
+
+}  // namespace

@@ -1,0 +1,129 @@
+// qdf check: what the library refuses, drops, changes, hides or never uses of documents.
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+
+#include "qdf/support/text.h"
+#include "tool/check/layout.h"
+#include "tool/command.h"
+#include "tool/load.h"
+#include "tool/printable.h"
+#include "tool/suggest.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Documents = std::vector<check::Examined>;
+
+Failure UnknownCode(const std::string& code) {
+  constexpr std::size_t kNearest = 3;
+  std::vector<std::string> names;
+  for (const check::Rule& rule : check::Rules()) names.emplace_back(rule.name);
+  std::stable_sort(names.begin(), names.end(), [&](const std::string& a, const std::string& b) {
+    return DistanceTo(a, code).second < DistanceTo(b, code).second;
+  });
+  std::string line = "there is no code " + Quoted(code) + "; the nearest are";
+  for (std::size_t i = 0; i < kNearest; ++i) line += (i > 0 ? ", " : " ") + names[i];
+  return {kWrongUsage, line};
+}
+
+std::vector<const check::Rule*> ChooseIgnored(const std::vector<std::string>& codes) {
+  std::vector<const check::Rule*> ignored;
+  for (const std::string& code : codes) {
+    ignored.push_back(check::FindRule(code));
+    if (ignored.back() == nullptr) throw UnknownCode(code);
+  }
+  return ignored;
+}
+
+bool HasDocumentName(const fs::path& path) {
+  return EqualNoCase(path.extension().native(), ".qdf");
+}
+
+// The documents of a folder by their names, ignoring case.
+std::vector<std::string> DocumentsIn(const std::string& folder) {
+  std::vector<std::string> paths;
+  std::error_code error;
+  for (fs::directory_iterator at(folder, error); at != fs::directory_iterator();
+       at.increment(error)) {
+    if (HasDocumentName(at->path()) && !fs::is_directory(at->path(), error)) {
+      paths.push_back(at->path().native());
+    }
+  }
+  if (error) throw Failure(kWrongUsage, "can't read the folder " + Quoted(folder));
+  if (paths.empty()) throw Failure(kWrongUsage, "there is no *.qdf in " + Quoted(folder));
+  const auto upper = [](std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), UpperChar);
+    return text;
+  };
+  std::sort(paths.begin(), paths.end(), [&](const std::string& a, const std::string& b) {
+    return std::pair(upper(a), a) < std::pair(upper(b), b);
+  });
+  return paths;
+}
+
+std::vector<std::string> PathsOf(const std::vector<std::string>& names) {
+  std::vector<std::string> paths;
+  for (const std::string& name : names) {
+    if (name.empty()) throw Failure(kWrongUsage, "the name of a document is empty");
+    std::error_code error;
+    if (fs::is_directory(name, error)) {
+      const std::vector<std::string> inside = DocumentsIn(name);
+      paths.insert(paths.end(), inside.begin(), inside.end());
+    } else {
+      paths.push_back(DocumentPath(name));
+    }
+  }
+  return paths;
+}
+
+Documents ExamineAll(const Arguments& arguments) {
+  const std::vector<const check::Rule*> ignored = ChooseIgnored(arguments.All("--ignore"));
+  Documents documents;
+  for (const std::string& path : PathsOf(arguments.All("DOC"))) {
+    documents.push_back({path, check::Examine(path)});
+    auto& findings = documents.back().examination.findings;
+    const auto isIgnored = [&](const check::Finding& finding) {
+      return std::find(ignored.begin(), ignored.end(), finding.rule) != ignored.end();
+    };
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isIgnored), findings.end());
+  }
+  return documents;
+}
+
+ExitCode CodeFor(const Documents& documents, bool warningsCount) {
+  for (const check::Examined& document : documents) {
+    if (CountOf(document, check::Severity::kError) > 0) return kNoAnswer;
+    if (warningsCount && CountOf(document, check::Severity::kWarning) > 0) return kNoAnswer;
+  }
+  return kAnswered;
+}
+
+Answer Check(const Arguments& arguments) {
+  const auto documents = std::make_shared<const Documents>(ExamineAll(arguments));
+  const ExitCode code = CodeFor(*documents, arguments.Has("--werror"));
+  return {JsonOf(*documents), code, {}, [documents](bool onTerminal) {
+            return TextOf(*documents, onTerminal);
+          }};
+}
+
+constexpr Option kOptions[] = {
+    {"DOC", "", "Documents, and folders whose *.qdf are meant", true, Times::kMany},
+    {"--ignore", "CODE", "Leave out the findings of this code", false, Times::kMany},
+    {"--werror", "", "Let a warning count as an error for the exit code"},
+};
+
+}  // namespace
+
+const Command kCheckCommand = {
+    "check",
+    "Tell what the library refuses, drops, hides or never uses of documents",
+    "An error: the document is refused. A warning: something written is lost or can never be\n"
+    "chosen. A note: odd, but harmless. docs/checks.md shows each code with an example. The exit\n"
+    "code is 1 when there is an error.",
+    "qdf check OutputDrivers --werror --ignore entry-unused",
+    kOptions,
+    Check,
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+// The examination of a document: all that a reader refuses, drops, changes, hides or never uses of
+// it, on a road through the file of its own, beside the reader.
+
+#include <string>
+#include <vector>
+
+#include "tool/check/findings.h"
+
+namespace check {
+
+struct Examination {
+  Source source;                  // of the file; empty when it can't be read
+  std::vector<Finding> findings;  // in the order of the file
+};
+
+// A document without an error is one that the reader takes; without a warning it drops nothing.
+Examination Examine(const std::string& path);
+
+}  // namespace check

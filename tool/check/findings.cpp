@@ -1,0 +1,83 @@
+#include "tool/check/findings.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace check {
+
+std::string Quote(std::string_view text) {
+  constexpr std::size_t kLongest = 60;
+  std::string quoted(1, '"');
+  if (text.size() <= kLongest) {
+    quoted += text;
+  } else {
+    // Not within a character of several bytes.
+    std::size_t end = kLongest;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+    quoted.append(text.substr(0, end)).append("...");
+  }
+  return quoted += '"';
+}
+
+std::string Count(std::size_t number, const std::string& noun) {
+  return std::to_string(number) + ' ' + noun + (number == 1 ? "" : "s");
+}
+
+void Findings::Add(Code code, const Element& element, Place place, std::string message,
+                   std::string hint) {
+  AddAt(code, place, std::move(message), std::move(hint));
+  findings_.back().path = PathOf(element);
+}
+
+void Findings::AddAt(Code code, Place place, std::string message, std::string hint) {
+  findings_.push_back({&RuleOf(code),
+                       true,
+                       place,
+                       source_.PositionOf(place.begin),
+                       {},
+                       std::move(message),
+                       std::move(hint)});
+}
+
+void Findings::AddUnplaced(Code code, std::string message, std::string hint) {
+  findings_.push_back({&RuleOf(code), false, {}, {}, {}, std::move(message), std::move(hint)});
+}
+
+std::string Findings::LineOf(const Element& element) const {
+  return "line " + std::to_string(source_.PositionOf(element.NamePlace().begin).line);
+}
+
+std::vector<Finding> Findings::Take() {
+  std::stable_sort(findings_.begin(), findings_.end(), [](const Finding& a, const Finding& b) {
+    return a.place.begin < b.place.begin;
+  });
+  return std::exchange(findings_, {});
+}
+
+std::string Findings::PathOf(const Element& element) {
+  std::string path;
+  for (Element at = element; at; at = at.Parent()) path.insert(0, '/' + StepOf(at));
+  return path;
+}
+
+std::string Findings::StepOf(const Element& element) {
+  std::string name = element.Name();
+  const Element parent = element.Parent();
+  if (!parent) return name;
+  if (numbers_.find(element.Identity()) == numbers_.end()) NumberChildren(parent);
+  const int number = numbers_[element.Identity()];
+  return number == 0 ? name : name + '[' + std::to_string(number) + ']';
+}
+
+void Findings::NumberChildren(const Element& parent) {
+  std::map<std::string_view, int> seen;
+  for (Element child = parent.First(); child; child = child.Next()) {
+    numbers_[child.Identity()] = ++seen[child.Name()];
+  }
+  for (Element child = parent.First(); child; child = child.Next()) {
+    if (seen[child.Name()] == 1) numbers_[child.Identity()] = 0;
+  }
+}
+
+}  // namespace check

@@ -1,0 +1,63 @@
+#pragma once
+
+// What an examination found in one document.
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "tool/check/codes.h"
+#include "tool/check/xmlview.h"
+
+namespace check {
+
+// Texts may hold any bytes that the document holds.
+struct Finding {
+  const Rule* rule = nullptr;
+  bool placed = false;  // whether there is a place in the file to speak of
+  Place place;
+  Position position;
+  std::string path;     // of the element, as in "/QDF_Info/Definition/MediaList/MediaDef[2]"
+  std::string message;  // a sentence without its full stop
+  std::string hint;     // what to do about it, without a full stop as well
+};
+
+// A text for a message: in quotation marks, and shortened when it is long.
+std::string Quote(std::string_view text);
+
+// "3 elements", "1 element".
+std::string Count(std::size_t number, const std::string& noun);
+
+// Collects findings. The source must outlive it.
+class Findings {
+ public:
+  explicit Findings(const Source& source) : source_(source) {}
+
+  void Add(Code code, const Element& element, Place place, std::string message, std::string hint);
+  // At the element's name.
+  void Add(Code code, const Element& element, std::string message, std::string hint) {
+    Add(code, element, element.NamePlace(), std::move(message), std::move(hint));
+  }
+  void AddAt(Code code, Place place, std::string message, std::string hint);
+  void AddUnplaced(Code code, std::string message, std::string hint);
+
+  // "line 12", for messages that point to another place.
+  std::string LineOf(const Element& element) const;
+
+  // Those found so far, in the order of the file; empties the collection.
+  std::vector<Finding> Take();
+
+ private:
+  std::string PathOf(const Element& element);
+  std::string StepOf(const Element& element);
+  void NumberChildren(const Element& parent);
+
+  const Source& source_;
+  std::vector<Finding> findings_;
+  // The place of each element among those of its name, 0 when it is the only one, for all children
+  // of the parents that a finding led to.
+  std::unordered_map<const void*, int> numbers_;
+};
+
+}  // namespace check

@@ -1,0 +1,174 @@
+// Which elements of Control_Definition a search can reach, and which options are listed.
+//
+// A search for some ids goes depth-first and takes the first path that is complete. So for given
+// ids of the upper levels several nodes may match, and the first of them answers what follows,
+// while the others are tried only for ids that lie deeper. Here the matching nodes for all ids are
+// found level by level; ids that lead to the same nodes are followed once.
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "tool/check/idsets.h"
+#include "tool/check/rules.h"
+
+namespace check {
+
+namespace {
+
+// Sets of ids that overlap on purpose may lead to more combinations of nodes than anybody can wait
+// for. Real documents need some thousand steps.
+constexpr std::size_t kMostSteps = 2'000'000;
+
+class ReachRules {
+ public:
+  ReachRules(const Lists& lists, Findings& findings) : lists_(lists), findings_(findings) {}
+
+  void Run(const ElementNode& control) {
+    Follow(0, {&control});
+    for (const auto& [node, option] : hidden_) TellHidden(*node, option);
+    if (steps_ <= kMostSteps) {
+      TellUnreached(control.children);
+    } else {
+      findings_.Add(Code::kReachUnfinished, control.element,
+                    "the sets of ids below overlap in so many ways that not all of them were "
+                    "tried: some elements may never be reached without a word about them here",
+                    "let the elements of a level share fewer ids");
+    }
+  }
+
+ private:
+  using Nodes = std::vector<const ElementNode*>;  // in the order of a search
+
+  struct HiddenOption {
+    std::uint32_t id;
+    std::vector<std::uint32_t> chosen;  // the ids of the levels above
+    const ElementNode* answers;
+  };
+
+  // Who answers for an id that a node holds.
+  struct Shadow {
+    const ElementNode* by;
+    std::uint32_t id;
+  };
+
+  // False when too many ids were looked at.
+  bool Count(const ElementNode& node) {
+    steps_ += static_cast<std::size_t>(node.ids.GetSize());
+    return steps_ <= kMostSteps;
+  }
+
+  // `matching` are the nodes that match the chosen ids; goes through all ids of the level below.
+  void Follow(std::size_t level, const Nodes& matching) {
+    if (steps_ > kMostSteps || !followed_.insert(matching).second) return;
+    FindHidden(level, matching);
+    std::vector<std::uint32_t> ids;
+    std::unordered_map<std::uint32_t, Nodes> holders;
+    for (const ElementNode* node : matching) {
+      for (const ElementNode& child : node->children) {
+        if (!Count(child)) return;
+        for (const std::uint32_t id : child.ids) {
+          Nodes& nodes = holders[id];
+          if (nodes.empty()) ids.push_back(id);
+          nodes.push_back(&child);
+        }
+      }
+    }
+    std::set<Nodes> told;
+    for (const std::uint32_t id : ids) {
+      const Nodes& nodes = holders[id];
+      if (!told.insert(nodes).second) continue;
+      chosen_[level] = id;
+      answering_.insert(nodes.front());
+      for (const ElementNode* node : nodes) shadow_.emplace(node, Shadow{nodes.front(), id});
+      if (level + 1 < kControlLevels.size()) Follow(level + 1, nodes);
+    }
+  }
+
+  // Only the first matching node lists what follows.
+  void FindHidden(std::size_t level, const Nodes& matching) {
+    if (matching.size() < 2) return;
+    std::unordered_set<std::uint32_t> listed;
+    for (const ElementNode& child : matching.front()->children) {
+      if (!Count(child)) return;
+      listed.insert(child.ids.begin(), child.ids.end());
+    }
+    for (auto node = matching.begin() + 1; node != matching.end(); ++node) {
+      for (const ElementNode& child : (*node)->children) {
+        if (!Count(child)) return;
+        const auto id = std::find_if(child.ids.begin(), child.ids.end(), [&](std::uint32_t each) {
+          return listed.find(each) == listed.end();
+        });
+        if (id == child.ids.end()) continue;
+        hidden_.try_emplace(
+            &child, HiddenOption{*id,
+                                 {chosen_.begin(), chosen_.begin() + static_cast<int>(level)},
+                                 matching.front()});
+      }
+    }
+  }
+
+  std::string Describe(std::size_t level, std::uint32_t id) const {
+    const ListKind kind = kControlLevels[level].list;
+    return check::Describe(kind, lists_[kind], static_cast<int>(id));
+  }
+
+  void TellHidden(const ElementNode& node, const HiddenOption& option) {
+    const std::size_t level = option.chosen.size();
+    std::string chosen;
+    for (std::size_t i = 0; i < level; ++i) {
+      if (i > 0) chosen += ", ";
+      chosen += Describe(i, option.chosen[i]);
+    }
+    const std::string above = kControlLevels[level - 1].element;
+    findings_.Add(Code::kOptionHidden, node.element, node.element.Find("ID").ValuePlace(),
+                  Describe(level, option.id) + " can be reached here for " + chosen +
+                      ", but is never listed: the " + above + " on " +
+                      findings_.LineOf(option.answers->element) + " answers what follows",
+                  "add it there, or take " + Describe(level - 1, option.chosen.back()) +
+                      " out of the " + above + " above");
+  }
+
+  bool IsReached(const ElementNode& node) const {
+    return answering_.find(&node) != answering_.end() ||
+           std::any_of(node.children.begin(), node.children.end(),
+                       [this](const ElementNode& child) { return IsReached(child); });
+  }
+
+  void TellUnreached(const std::vector<ElementNode>& nodes, std::size_t level = 0) {
+    for (const ElementNode& node : nodes) {
+      if (IsReached(node)) {
+        TellUnreached(node.children, level + 1);
+      } else {
+        TellShadowed(node, level, shadow_.find(&node)->second);
+      }
+    }
+  }
+
+  void TellShadowed(const ElementNode& node, std::size_t level, const Shadow& shadow) {
+    const std::string name = node.element.Name();
+    findings_.Add(Code::kNeverReached, node.element,
+                  "no choice of ids leads to this " + name + ": the " + name + " on " +
+                      findings_.LineOf(shadow.by->element) + " answers first for " +
+                      Describe(level, shadow.id),
+                  "merge the two, or take ids out of the first");
+  }
+
+  const Lists& lists_;
+  Findings& findings_;
+  std::size_t steps_ = 0;
+  std::array<std::uint32_t, kControlLevels.size()> chosen_{};
+  std::set<Nodes> followed_;
+  std::unordered_set<const ElementNode*> answering_;
+  std::unordered_map<const ElementNode*, Shadow> shadow_;
+  std::unordered_map<const ElementNode*, HiddenOption> hidden_;
+};
+
+}  // namespace
+
+void CheckReach(const ElementNode& control, const Lists& lists, Findings& findings) {
+  if (control.element) ReachRules(lists, findings).Run(control);
+}
+
+}  // namespace check
