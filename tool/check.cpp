@@ -80,10 +80,11 @@ std::vector<std::string> PathsOf(const std::vector<std::string>& names) {
 }
 
 Documents ExamineAll(const Arguments& arguments) {
+  const check::Choice choice{arguments.Has("--write-loss"), arguments.Has("--host")};
   const std::vector<const check::Rule*> ignored = ChooseIgnored(arguments.All("--ignore"));
   Documents documents;
   for (const std::string& path : PathsOf(arguments.All("DOC"))) {
-    documents.push_back({path, check::Examine(path)});
+    documents.push_back({path, check::Examine(path, choice)});
     auto& findings = documents.back().examination.findings;
     const auto isIgnored = [&](const check::Finding& finding) {
       return std::find(ignored.begin(), ignored.end(), finding.rule) != ignored.end();
@@ -113,6 +114,8 @@ constexpr Option kOptions[] = {
     {"DOC", "", "Documents, and folders whose *.qdf are meant", true, Times::kMany},
     {"--ignore", "CODE", "Leave out the findings of this code", false, Times::kMany},
     {"--werror", "", "Let a warning count as an error for the exit code"},
+    {"--write-loss", "", "Also tell what a write or an update of a document loses"},
+    {"--host", "", "Also look for the files that a document names"},
 };
 
 }  // namespace

@@ -92,13 +92,35 @@ constexpr Rule kRules[] = {
     {Code::kSourceOverlaps, "source-overlaps", kNote,
      "some ids of an element are answered by an earlier one"},
     {Code::kSizeNoMargins, "size-no-margins", kWarning, "a media size has no margins"},
+
+    {Code::kWriteAside, "write-aside", kNote, "a write loses comments and instructions"},
+    {Code::kWriteDefaultInk, "write-default-ink", kNote, "a write loses the default ink"},
+    {Code::kWriteInk, "write-ink", kNote, "a write keeps the first Ink only"},
+    {Code::kWriteScreen, "write-screen", kNote, "a write loses the screen of a colorant"},
+    {Code::kWriteDefaultDither, "write-default-dither", kNote, "a write loses a default dither"},
+    {Code::kWriteDitherCase, "write-dither-case", kNote, "a write turns dither names to capitals"},
+    {Code::kWriteRip, "write-rip", kNote, "a write loses RIP resolutions"},
+    {Code::kWriteSupportAll, "write-support-all", kNote,
+     "a write loses that all dithers are supported"},
+    {Code::kWriteDefaultMargin, "write-default-margin", kNote, "a write loses a default margin"},
+    {Code::kWriteMargins, "write-margins", kNote, "a write takes margins from another element"},
+    {Code::kWriteFraction, "write-fraction", kNote, "a write cuts resolutions to whole numbers"},
+    {Code::kWriteDecimals, "write-decimals", kNote, "a write keeps six decimals"},
+    {Code::kWriteIDList, "write-idlist", kNote, "a write turns short id lists into plain ones"},
+
+    {Code::kTableMissing, "table-missing", kWarning,
+     "the translation table isn't beside the document"},
+    {Code::kCustomMediaMissing, "custom-media-missing", kNote,
+     "the custom media file isn't beside the document yet"},
+    {Code::kFileNameNotBare, "file-name-not-bare", kWarning,
+     "a file is named by more than its bare name"},
 };
 
 constexpr bool AreInOrder() {
   for (std::size_t i = 0; i < std::size(kRules); ++i) {
     if (kRules[i].code != static_cast<Code>(i)) return false;
   }
-  return kRules[std::size(kRules) - 1].code == Code::kSizeNoMargins;
+  return kRules[std::size(kRules) - 1].code == Code::kFileNameNotBare;
 }
 static_assert(AreInOrder());
 

@@ -88,6 +88,26 @@ enum class Code {
   kSourceShadowed,
   kSourceOverlaps,
   kSizeNoMargins,
+
+  // What a write loses.
+  kWriteAside,
+  kWriteDefaultInk,
+  kWriteInk,
+  kWriteScreen,
+  kWriteDefaultDither,
+  kWriteDitherCase,
+  kWriteRip,
+  kWriteSupportAll,
+  kWriteDefaultMargin,
+  kWriteMargins,
+  kWriteFraction,
+  kWriteDecimals,
+  kWriteIDList,
+
+  // Files beside the document.
+  kTableMissing,
+  kCustomMediaMissing,
+  kFileNameNotBare,
 };
 
 struct Rule {

@@ -37,21 +37,24 @@ void CheckEncoding(std::string_view text, Findings& findings) {
                  "save the file as UTF-8");
 }
 
-void ExamineContent(const XMLView& document, Findings& findings) {
+void ExamineContent(const XMLView& document, const std::string& path, const Choice& choice,
+                    Findings& findings) {
   CheckEncoding(document.Bytes().Text(), findings);
   CheckStructure(document, findings);
   const Lists lists = CheckLists(document, findings);
+  if (choice.hostFiles) CheckHostFiles(document, path, findings);
   if (lists.refused) return;
   const ElementNode control = CheckControl(document, lists, findings);
   CheckColorModes(control, findings);
   CheckReach(control, lists, findings);
   const ElementNode sources = CheckMediaSources(document, lists, findings);
   CheckUse(lists, control, sources, findings);
+  if (choice.writeLoss) CheckWriteLoss(document, lists, control, sources, findings);
 }
 
 }  // namespace
 
-Examination Examine(const std::string& path) {
+Examination Examine(const std::string& path, const Choice& choice) {
   XMLView document;
   Findings findings(document.Bytes());
   const XMLView::Fault fault = document.Load(path.c_str());
@@ -61,7 +64,7 @@ Examination Examine(const std::string& path) {
     findings.AddAt(Code::kNotWellFormed, {fault.offset, 1}, fault.reason,
                    "correct the XML here; nothing else is examined until then");
   } else {
-    ExamineContent(document, findings);
+    ExamineContent(document, path, choice, findings);
   }
   return {document.Bytes(), findings.Take()};
 }

@@ -10,12 +10,17 @@
 
 namespace check {
 
+struct Choice {
+  bool writeLoss = false;  // also what a write of the document loses
+  bool hostFiles = false;  // also the files that it names
+};
+
 struct Examination {
   Source source;                  // of the file; empty when it can't be read
   std::vector<Finding> findings;  // in the order of the file
 };
 
 // A document without an error is one that the reader takes; without a warning it drops nothing.
-Examination Examine(const std::string& path);
+Examination Examine(const std::string& path, const Choice& choice = {});
 
 }  // namespace check

@@ -34,4 +34,11 @@ void CheckReach(const ElementNode& control, const Lists& lists, Findings& findin
 void CheckUse(const Lists& lists, const ElementNode& control, const ElementNode& sources,
               Findings& findings);
 
+// What is lost when the library writes the document.
+void CheckWriteLoss(const XMLView& document, const Lists& lists, const ElementNode& control,
+                    const ElementNode& sources, Findings& findings);
+
+// The files that the document names, which lie in the folder of the document.
+void CheckHostFiles(const XMLView& document, const std::string& documentPath, Findings& findings);
+
 }  // namespace check

@@ -24,7 +24,10 @@ _qdf_grammar() { # COMMAND
       ;;
     tree) options="--depth" arguments=(documents) ;;
     diff) arguments=(documents documents) ;;
-    check) options="--ignore --werror" arguments=(documents) places=0 ;;
+    check)
+      options="--ignore --werror --write-loss --host"
+      arguments=(documents) places=0
+      ;;
     localise) options="--output --untranslated" arguments=(documents) ;;
     media) options="--set-name --set-profile --add-profile --remove" arguments=(documents) ;;
     options) arguments=(files files) ;;
