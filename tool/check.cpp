@@ -17,6 +17,26 @@ namespace fs = std::filesystem;
 
 using Documents = std::vector<check::Examined>;
 
+enum class Format { kText, kJson, kSarif };
+
+struct FormatName {
+  const char* name;
+  Format format;
+};
+
+constexpr FormatName kFormats[] = {
+    {"text", Format::kText}, {"json", Format::kJson}, {"sarif", Format::kSarif}};
+
+Format ChooseFormat(const std::string* name) {
+  if (name == nullptr) return Format::kText;
+  std::vector<std::string> names;
+  for (const FormatName& each : kFormats) {
+    if (*name == each.name) return each.format;
+    names.emplace_back(each.name);
+  }
+  throw UnknownWord("format", *name, names);
+}
+
 Failure UnknownCode(const std::string& code) {
   constexpr std::size_t kNearest = 3;
   std::vector<std::string> names;
@@ -103,11 +123,15 @@ ExitCode CodeFor(const Documents& documents, bool warningsCount) {
 }
 
 Answer Check(const Arguments& arguments) {
+  const Format format = ChooseFormat(arguments.Find("--format"));
   const auto documents = std::make_shared<const Documents>(ExamineAll(arguments));
   const ExitCode code = CodeFor(*documents, arguments.Has("--werror"));
-  return {JsonOf(*documents), code, {}, [documents](bool onTerminal) {
-            return TextOf(*documents, onTerminal);
-          }};
+  const Object report = format == Format::kSarif ? SarifOf(*documents) : JsonOf(*documents);
+  if (format != Format::kText) {
+    return {report, code, {}, [report](bool /*onTerminal*/) { return RenderJson(report); }};
+  }
+  return {
+      report, code, {}, [documents](bool onTerminal) { return TextOf(*documents, onTerminal); }};
 }
 
 constexpr Option kOptions[] = {
@@ -116,6 +140,7 @@ constexpr Option kOptions[] = {
     {"--werror", "", "Let a warning count as an error for the exit code"},
     {"--write-loss", "", "Also tell what a write or an update of a document loses"},
     {"--host", "", "Also look for the files that a document names"},
+    {"--format", "FORMAT", "Print text, json or sarif"},
 };
 
 }  // namespace

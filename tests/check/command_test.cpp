@@ -145,6 +145,8 @@ TEST(CheckCommand, AnswersWithExitCodes) {
       {"warns --ignore attribute-unkown", 2, "",
        "qdf: there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
        "element-unknown, id-unknown\n"},
+      {"warns --format xml", 2, "",
+       "qdf: there is no format \"xml\"; choose from text, json, sarif\n"},
       {"empty", 2, "", "qdf: there is no *.qdf in \"empty\"\n"},
   };
   for (const UsageRow& row : rows) {
@@ -166,6 +168,35 @@ TEST(CheckCommand, GivesAnObjectForEachFinding) {
       "line": 12, "column": 21, "length": 1, "path": "/QDF_Info/Definition/MediaList/MediaDef[2]/ID",
       "message": "this medium is dropped: \"Plain\" on line 11 has the id 1 already",
       "hint": "give it an ID of its own"})"));
+}
+
+TEST(CheckCommand, WritesSarif) {
+  const TempFolder folder;
+  // A character of two bytes and one of four stand before the finding: one and two code units.
+  const std::string path = folder.Write(
+      "d \xC3\xA9.qdf", "<QDF_Info><!-- \xC3\xA9\xF0\x9F\x96\xA8 --><Definition/></QDF_Info>");
+  const Outcome outcome = RunTool({"check", "--format", "sarif", path, "none.qdf"});
+  const Json log = Json::parse(outcome.out, nullptr, false);
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(log["version"], "2.1.0");
+  const Json& run = log["runs"][0];
+  EXPECT_EQ(run["columnKind"], "utf16CodeUnits");
+  EXPECT_EQ(run["tool"]["driver"]["name"], "qdf");
+  const Json& rules = run["tool"]["driver"]["rules"];
+  ASSERT_EQ(run["results"].size(), 6U);
+  for (const Json& result : run["results"]) {
+    const Json& rule = rules[result["ruleIndex"].get<std::size_t>()];
+    EXPECT_EQ(result["ruleId"], rule["id"]);
+    EXPECT_EQ(result["level"], rule["defaultConfiguration"]["level"]);
+  }
+  Json place = run["results"][0]["locations"][0];
+  EXPECT_EQ(place["physicalLocation"]["artifactLocation"]["uri"],
+            "file://" + folder.Path() + "/d%20%C3%A9.qdf");
+  EXPECT_EQ(place["physicalLocation"]["region"],
+            Json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
+  EXPECT_EQ(place["logicalLocations"][0]["fullyQualifiedName"], "/QDF_Info/Definition");
+  place = run["results"][5]["locations"][0];
+  EXPECT_FALSE(place["physicalLocation"].contains("region"));
 }
 
 }  // namespace

@@ -26,4 +26,7 @@ std::string TextOf(const std::vector<Examined>& documents, bool context);
 // lengths in bytes.
 Object JsonOf(const std::vector<Examined>& documents);
 
+// A SARIF log of version 2.1.0. Its columns count in UTF-16 code units.
+Object SarifOf(const std::vector<Examined>& documents);
+
 }  // namespace check

@@ -25,7 +25,7 @@ _qdf_grammar() { # COMMAND
     tree) options="--depth" arguments=(documents) ;;
     diff) arguments=(documents documents) ;;
     check)
-      options="--ignore --werror --write-loss --host"
+      options="--ignore --werror --write-loss --host --format"
       arguments=(documents) places=0
       ;;
     localise) options="--output --untranslated" arguments=(documents) ;;
@@ -45,6 +45,7 @@ _qdf_value() { # OPTION
     -C) value=folders ;;
     -o | --output) value=files ;;
     --list) value=lists ;;
+    --format) value=formats ;;
     --depth | --ink | --media | --print-mode | --resolution | --color-mode | --source | --size) ;&
     --set-name | --set-profile | --add-profile | --remove | --ignore) value=unknown ;;
     *) value= ;;
@@ -95,6 +96,7 @@ _qdf() {
       options) compgen -W "$options" -- "$word" ;;
       commands) compgen -W "$commands" -- "$word" ;;
       lists) compgen -W "$lists" -- "$word" ;;
+      formats) compgen -W "text json sarif" -- "$word" ;;
       documents) _qdf_documents "$folder" "$word" ;;
       files) _qdf_paths f "$folder" "$word" ;;
       folders) _qdf_paths d "$folder" "$word" ;;
