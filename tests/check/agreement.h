@@ -1,0 +1,18 @@
+#pragma once
+
+// Whether the examination of a document and the library say the same of it. The file is counted
+// here in a plain way, without a rule of either.
+
+#include <string>
+
+#include "tool/check/examine.h"
+
+// Empty when they agree about the document in the file, else what they disagree about:
+// - a document has an error exactly when it is refused;
+// - without a warning the object holds every entry, node, name, id and default of the file;
+// - when moreover a write is said to lose nothing, the written document loads as the same object.
+//   It is written to `scratch`, where there is nothing before and nothing afterwards.
+std::string Disagreement(const std::string& path, const std::string& scratch);
+
+// Whether there is a finding of that severity.
+bool Finds(const check::Examination& examination, check::Severity severity);
