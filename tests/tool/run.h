@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -77,20 +78,25 @@ inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
           ReadBack(err)};
 }
 
-// What a person at a terminal sees who has typed that, and the exit code behind it.
+// What a person at a terminal sees who has typed that blindly, and the exit code behind it.
 inline std::string OnTerminal(const Words& words, Setting setting, const std::string& typed = {}) {
   const int master = posix_openpt(O_RDWR | O_NOCTTY);
   if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) return "no terminal";
   const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
+  // What is typed shows at no certain time, so it isn't shown at all.
+  termios mode{};
+  if (tcgetattr(terminal, &mode) != 0) return "no terminal";
+  mode.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  tcsetattr(terminal, TCSANOW, &mode);
   if (write(master, typed.data(), typed.size()) < 0) return "no terminal";
   setting.in = setting.out = terminal;
   const Outcome outcome = RunTool(words, setting);
-  char bytes[4096];
-  const ssize_t got = read(master, bytes, sizeof bytes);
+  // Bytes come in pieces, and once nobody has the terminal reading ends behind the last of them.
   close(terminal);
+  std::string shown;
+  for (char c = 0; read(master, &c, 1) == 1;) shown += c;
   close(master);
-  return std::string(bytes, got > 0 ? static_cast<std::size_t>(got) : 0) + outcome.err + "code " +
-         std::to_string(outcome.code);
+  return shown + outcome.err + "code " + std::to_string(outcome.code);
 }
 
 // Of a line without quotation marks.
