@@ -11,6 +11,7 @@
 #include "qdf/support/nothrow.h"
 #include "qdf/support/savebytes.h"
 #include "qdf/support/text.h"
+#include "qdf/support/xmlnodes.h"
 #include "qdf/support/xmlwellformed.h"
 
 // The parser works inside `bytes`, and the nodes of `xml` point into them: they must outlive it.
@@ -25,12 +26,6 @@ struct AXMLTree::Document {
 };
 
 namespace {
-
-// White space is text where it is all that an element holds; elsewhere only where it may be a piece
-// of a text that is split. Nodes for the layout between elements would cost much and tell nothing.
-unsigned int ParseOptions(bool splitsText) {
-  return pugi::parse_default | (splitsText ? pugi::parse_ws_pcdata : pugi::parse_ws_pcdata_single);
-}
 
 AXMLFault FaultAt(std::string_view text, std::size_t offset, const char* reason) {
   const std::string_view before = text.substr(0, std::min(offset, text.size()));
@@ -48,21 +43,6 @@ AXMLFault FileFault(const char* reason, bool lackedMeans) {
   fault.Reason = reason;
   fault.LackedMeans = lackedMeans;
   return fault;
-}
-
-bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_element; }
-
-bool IsText(const pugi::xml_node& node) {
-  return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
-}
-
-bool IsLayout(const pugi::xml_node& node) {
-  return node.type() == pugi::node_pcdata && Trimmed(node.value()).empty();
-}
-
-pugi::xml_node ElementFrom(pugi::xml_node node) {
-  while (node && !IsElement(node)) node = node.next_sibling();
-  return node;
 }
 
 // Takes what the printer emits. In a text that leaves a carriage return as it is, which a parser
@@ -105,7 +85,7 @@ AXMLFault AXMLTree::Document::Load(Read read) {
   const XMLFindings findings = ExamineXML(bytes.Text());
   if (findings.fault != nullptr) return FaultAt(bytes.Text(), findings.offset, findings.fault);
   const pugi::xml_parse_result result = xml.load_buffer_inplace(
-      bytes.data.get(), bytes.size, ParseOptions(findings.splitsText), pugi::encoding_utf8);
+      bytes.data.get(), bytes.size, XMLParseOptions(findings.splitsText), pugi::encoding_utf8);
   if (result) return AXMLFault();
   xml.reset();
   if (result.status == pugi::status_out_of_memory) throw std::bad_alloc();
@@ -200,26 +180,7 @@ int AXMLTree::getChildCount(AXMLTreeNode node) const {
 AString AXMLTree::getName(AXMLTreeNode node) const { return pugi::xml_node(node.element_).name(); }
 
 AString AXMLTree::getValue(AXMLTreeNode node) const {
-  const pugi::xml_node element(node.element_);
-  const pugi::xml_node first = element.first_child();
-  if (IsText(first) && !first.next_sibling()) return first.value();
-  AString value;
-  AString run;  // what stands between two child elements, also in pieces
-  bool isLayout = true;
-  bool hasElements = false;
-  for (const pugi::xml_node part : element.children()) {
-    if (IsText(part)) {
-      run += part.value();
-      isLayout = isLayout && IsLayout(part);
-    } else if (IsElement(part)) {
-      hasElements = true;
-      if (!isLayout) value += run;
-      run.Empty();
-      isLayout = true;
-    }
-  }
-  if (!isLayout || !hasElements) value += run;
-  return value;
+  return OwnText(pugi::xml_node(node.element_));
 }
 
 AString AXMLTree::getAttribute(AXMLTreeNode node, const char* name) const {

@@ -4,26 +4,12 @@
 
 #include "qdf/support/filebytes.h"
 #include "qdf/support/text.h"
+#include "qdf/support/xmlnodes.h"
 #include "qdf/support/xmlwellformed.h"
 
 namespace check {
 
 namespace {
-
-bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_element; }
-
-bool IsText(const pugi::xml_node& node) {
-  return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
-}
-
-bool IsLayout(const pugi::xml_node& node) {
-  return node.type() == pugi::node_pcdata && Trimmed(node.value()).empty();
-}
-
-pugi::xml_node ElementFrom(pugi::xml_node node) {
-  while (node && !IsElement(node)) node = node.next_sibling();
-  return node;
-}
 
 // The next node in the order of the file within `top`, null behind the last.
 pugi::xml_node NextUnder(pugi::xml_node node, const pugi::xml_node& top) {
@@ -84,14 +70,7 @@ Element Element::First() const { return {ElementFrom(node_.first_child()), sourc
 
 Element Element::Next() const { return {ElementFrom(node_.next_sibling()), source_}; }
 
-std::string Element::Text() const {
-  const bool hasElements = static_cast<bool>(First());
-  std::string text;
-  for (const pugi::xml_node part : node_.children()) {
-    if (IsText(part) && !(hasElements && IsLayout(part))) text += part.value();
-  }
-  return text;
-}
+std::string Element::Text() const { return std::string(View(OwnText(node_))); }
 
 pugi::xml_node Element::FirstText() const {
   for (const pugi::xml_node part : node_.children()) {
@@ -138,10 +117,8 @@ XMLView::Fault XMLView::Load(const char* path) {
   source_ = Source(bytes.Text());
   const XMLFindings findings = ExamineXML(bytes.Text());
   if (findings.fault != nullptr) return {findings.fault, false, findings.offset};
-  const unsigned int options = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
-                               pugi::parse_doctype |
-                               (findings.splitsText ? pugi::parse_ws_pcdata  //
-                                                    : pugi::parse_ws_pcdata_single);
+  const unsigned int options = XMLParseOptions(findings.splitsText) | pugi::parse_comments |
+                               pugi::parse_pi | pugi::parse_doctype;
   const pugi::xml_parse_result result = document_->xml.load_buffer_inplace(
       bytes.data.get(), bytes.size, options, pugi::encoding_utf8);
   if (result) return {};
