@@ -13,7 +13,7 @@ macro(debian_package component name section depends description)
     RENAME copyright COMPONENT ${component})
 endmacro()
 
-set(runtime_package libapmqdf${PROJECT_VERSION_MAJOR})
+set(runtime_package libapmqdf${APMQDF_SOVERSION})
 if(BUILD_SHARED_LIBS)
   debian_package(runtime ${runtime_package} libs ""
 "printer abilities from QDF documents (library)

@@ -28,9 +28,9 @@ export PKG_CONFIG_PATH=$lib/pkgconfig LD_LIBRARY_PATH=$lib CMAKE_PREFIX_PATH=$pr
 export CXX=${CXX:-c++} CXXFLAGS='-Wall -Wextra -Wpedantic -Wshadow -Werror'
 
 step "files"
-[[ $library == shared ]] && absent='\.a$' || absent='\.so|libapmqdf0'
+[[ $library == shared ]] && absent='\.a$' || absent='\.so|doc/libapmqdf[0-9]'
 find "$prefix" ! -type d -printf '%P\n' |
-  sed -E 's/\.so(\.[0-9]+){2,}$/.so.VERSION/; s/(-targets-).*\.cmake$/\1CONFIG.cmake/
+  sed -E 's/\.so(\.[0-9]+){3,}$/.so.VERSION/; s/(-targets-).*\.cmake$/\1CONFIG.cmake/
           s|^lib/[^/]+-linux-gnu/|lib/|' |
   sort | diff -u <(grep -vE "$absent" "$here/files.txt") -
 
