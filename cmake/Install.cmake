@@ -24,8 +24,18 @@ install(EXPORT apmqdf FILE apmqdf-targets.cmake NAMESPACE apmqdf::
 install(FILES ${generated}/apmqdf-config.cmake ${generated}/apmqdf-config-version.cmake
   DESTINATION ${cmake_folder} COMPONENT development)
 
-# For hosts that build with anything else. The file finds the prefix from where it lies.
-file(RELATIVE_PATH pkgconfig_to_prefix /${pkgconfig_folder} /)
+# For hosts that build with anything else. The file finds the prefix from where it lies, unless a
+# folder outside of the prefix was asked for. What is appended takes the prefix's place when it is
+# absolute.
+set(pkgconfig_prefix ${CMAKE_INSTALL_PREFIX})
+if(NOT IS_ABSOLUTE ${pkgconfig_folder})
+  file(RELATIVE_PATH pkgconfig_to_prefix /${pkgconfig_folder} /)
+  set(pkgconfig_prefix \${pcfiledir}/${pkgconfig_to_prefix})
+endif()
+foreach(folder LIBDIR INCLUDEDIR)
+  set(pkgconfig_${folder} \${prefix})
+  cmake_path(APPEND pkgconfig_${folder} ${CMAKE_INSTALL_${folder}})
+endforeach()
 if(NOT BUILD_SHARED_LIBS)
   set(pkgconfig_requires "Requires.private: pugixml")
 endif()

@@ -55,3 +55,9 @@ step "host, pkg-config"
 cp -r "$examples/host" "$temp/make"
 make -C "$temp/make" >/dev/null
 runs "$temp/make/host"
+
+step "pkg-config, library outside of the prefix"
+cmake -S "$here/../.." -B "$temp/outside" -DAPMQDF_BUILD_TESTS=OFF \
+  -DCMAKE_INSTALL_PREFIX=/opt/qdf -DCMAKE_INSTALL_LIBDIR=/srv/lib >/dev/null
+diff -u - <(PKG_CONFIG_PATH=$temp/outside/install pkg-config --cflags --libs apmqdf) \
+  <<<'-I/opt/qdf/include -L/srv/lib -lapmqdf '
