@@ -76,9 +76,8 @@ const Command kLocaliseCommand = {
     "localise",
     "Show or write a document with its display names translated",
     "The translation table is the file in OutputDrivers that the document names. In OUT the media\n"
-    "bear their translated names for good: when hosts keep ids of media across updates, update "
-    "the\n"
-    "untranslated document.",
+    "bear their translated names for good: when hosts keep ids of media across updates, update\n"
+    "the untranslated document.",
     "qdf localise plot36.qdf\n"
     "  qdf localise plot36.qdf --untranslated\n"
     "  qdf localise plot36.qdf -o translated.qdf",
