@@ -1,6 +1,7 @@
 #include "tool/optionfields.h"
 
 #include <charconv>
+#include <limits>
 
 #include "qdf/support/text.h"
 
@@ -69,9 +70,23 @@ constexpr OptionField kFields[] = {
     OfColorant<&ColorantInfo::ColorantSetting5>("colorantSetting5", "C5", true),
 };
 
+// A curve's steps of 0.05 come out as 0.15000000000000002 and the like. What lies behind the digits
+// that any double keeps is far below what the library's comparisons see in a curve.
+double CurvePoint(double value) {
+  constexpr int kDigits = std::numeric_limits<double>::digits10;
+  char digits[32];
+  const char* end =
+      std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, kDigits).ptr;
+  std::from_chars(digits, end, value);
+  return value;
+}
+int CurvePoint(int flag) { return flag; }
+
 template <class Number>
 List ListOf(const Number (&numbers)[ANewColorOpt::kCurvePoints]) {
-  return List(std::begin(numbers), std::end(numbers));
+  List list;
+  for (const Number number : numbers) list.emplace_back(CurvePoint(number));
+  return list;
 }
 
 // In few words for people.
@@ -108,7 +123,7 @@ class Differences {
     for (int i = 0; i < ANewColorOpt::kCurvePoints; ++i) {
       Add(
           key, label + std::to_string(i), i,
-          [=](const ANewColorOpt& option) { return Value((option.*curve)[i]); },
+          [=](const ANewColorOpt& option) { return Value(CurvePoint((option.*curve)[i])); },
           [=](ANewColorOpt& to, const ANewColorOpt& from) { (to.*curve)[i] = (from.*curve)[i]; });
     }
   }

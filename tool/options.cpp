@@ -13,21 +13,28 @@ namespace {
 
 using Records = std::deque<ANewColorOpt>;  // which are never copied
 
-// No archive of colour options is that large, but a file of zeros could seem to be.
-constexpr std::size_t kMostRecords = 10'000;
+// Whether the next group is a record: every writer of them has written these tags. To the library a
+// group may lack any, so that a file of zeros would be made of records.
+bool PassRecord(AArchive& archive) {
+  constexpr unsigned char kTags = 13;
+  bool hasAll = true;
+  archive.TagStart();
+  for (unsigned char tag = 0; tag < kTags; ++tag) hasAll = archive.GetTag(tag) != 0 && hasAll;
+  archive.TagEnd();
+  return hasAll;
+}
 
 Records ReadRecords(const std::string& file) {
   ReadWhole(file);
-  AArchive archive(AFilePath(file.c_str()), AArchive::Direction::Reading);
+  const AFilePath path(file.c_str());
+  AArchive archive(path, AArchive::Direction::Reading);
+  AArchive ahead(path, AArchive::Direction::Reading);
   Records records;
   while (archive.AtEnd() == 0) {
-    if (records.size() == kMostRecords) {
-      throw Failure(kNoAnswer, file + ": more than " + std::to_string(kMostRecords) +
-                                   " records: this is no archive of colour options");
-    }
     const std::string whole = std::to_string(records.size());
+    const bool isRecord = PassRecord(ahead);
     archive >> records.emplace_back();
-    if (archive.IsDamaged() != 0) {
+    if (!isRecord || archive.IsDamaged() != 0) {
       const std::string line = file + ": damaged, or no archive of colour options; whole records: ";
       throw Failure(kNoAnswer, line + whole);
     }

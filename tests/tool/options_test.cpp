@@ -41,6 +41,7 @@ Colour options (2)
   EXPECT_EQ(gold["frequency"], 60.1);
   EXPECT_EQ(gold["curveValues"].size(), 21U);
   EXPECT_EQ(gold["curveValues"][2], 0.2);
+  EXPECT_EQ(gold["curveValues"][3].dump(), "0.15");
   EXPECT_EQ(gold["curveFlags"][3], 1);
 }
 
@@ -93,14 +94,16 @@ TEST_F(QdfOptions, StopsAtDamage) {
   const std::string both = ReadFile(folder_.Path("a.opt"));
   folder_.Write("cut.opt", both.substr(0, both.size() - 1));
   folder_.Write("text.opt", "This is no archive");
-  folder_.Write("zeros.opt", std::string(50'000, '\0'));
+  folder_.Write("zeros.opt", std::string(40, '\0'));
+  folder_.Write("rest.opt", both + std::string(40, '\0'));
   const struct {
     const char* words;
     const char* line;
   } refusals[] = {
       {"cut.opt", "cut.opt: damaged, or no archive of colour options; whole records: 1"},
       {"a.opt text.opt", "text.opt: damaged, or no archive of colour options; whole records: 0"},
-      {"zeros.opt", "zeros.opt: more than 10000 records: this is no archive of colour options"},
+      {"zeros.opt", "zeros.opt: damaged, or no archive of colour options; whole records: 0"},
+      {"rest.opt", "rest.opt: damaged, or no archive of colour options; whole records: 2"},
       {"none.opt", "none.opt: no such file"},
       {"./", "./: it is a folder"},
   };

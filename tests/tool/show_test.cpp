@@ -115,7 +115,9 @@ nlohmann::json SmallJson() {
   for (nlohmann::json& colorMode : all["colorModes"]) {
     for (nlohmann::json& colorant : colorMode["colorants"]) {
       colorant.update(more);
-      colorant["curveValues"] = ANewColorOpt().CurveValues;
+      for (int i = 0; i < ANewColorOpt::kCurvePoints; ++i) {
+        colorant["curveValues"].push_back(i / 20.0);
+      }
     }
   }
   all["colorModes"][0]["colorants"][0]["setting5"] = 0.1;
