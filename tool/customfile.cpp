@@ -67,15 +67,11 @@ CustomFile ReadCustomFile(const std::string& path) {
   if (!file.exists) return file;
   ReadWhole(path);
   AFilePath place(path.c_str());
-  ForEachLine(place, [&](std::size_t number, const char* text) {
+  ForEachLine(place, [&](const TextLine& text) {
     CustomMediaLine line;
-    const char* fault = ReadCustomMediaLine(text, line);
-    const std::string shown(Trimmed(text));
-    if (fault == nullptr) {
-      Take(line, file);
-    } else if (!shown.empty()) {
-      file.ignored.push_back({static_cast<int>(number), shown, fault});
-    }
+    const char* fault = ReadCustomMediaLine(text.Text, line);
+    AddIgnored(text, fault, file.ignored);
+    if (fault == nullptr) Take(line, file);
   });
   DropUnset(file);
   return file;

@@ -2,13 +2,13 @@
 
 // A custom media file as a person sees it: its entries, and the lines that are none.
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "qdf/localise/custommedia.h"
 #include "qdf/localise/custommedialine.h"
+#include "tool/ignoredlines.h"
 
 struct CustomMedium {
   std::string name;
@@ -16,12 +16,6 @@ struct CustomMedium {
   std::optional<std::string> profile{};
 
   bool IsSet() const { return displayName || profile; }
-};
-
-struct IgnoredLine {
-  int number;
-  std::string text;
-  std::string reason;
 };
 
 struct CustomFile {

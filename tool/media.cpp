@@ -101,18 +101,12 @@ void AddFile(const CustomFile& file, const std::vector<IgnoredLine>& lines, bool
   for (const std::string& name : file.profiles) {
     profiles.emplace_back(Object{{"name", "Name", name}});
   }
-  List ignored;
-  for (const IgnoredLine& line : lines) {
-    ignored.emplace_back(Object{{"line", "Line", line.number},
-                                {"reason", "Why", line.reason},
-                                {"text", "Text", line.text}});
-  }
   const char* state = saved ? "saved" : file.exists ? "read" : "no such file";
   report.Add({"state", "State", state});
   report.Add({"profiles", "Profiles", std::move(profiles)});
   report.Add({"media", "Media", MediaRows(file, document)});
   const char* label = saved ? "Lines that were dropped" : "Lines that don't count";
-  report.Add({"ignored", lines.empty() ? nullptr : label, std::move(ignored)});
+  report.Add(IgnoredField(lines.empty() ? nullptr : label, lines));
 }
 
 Answer Media(const Arguments& arguments) {

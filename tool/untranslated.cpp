@@ -1,5 +1,6 @@
 #include "tool/untranslated.h"
 
+#include <algorithm>
 #include <map>
 #include <unordered_map>
 #include <unordered_set>
@@ -7,6 +8,7 @@
 #include "qdf/localise/translationtable.h"
 #include "qdf/support/text.h"
 #include "tool/compare/entries.h"
+#include "tool/ignoredlines.h"
 #include "tool/lists.h"
 #include "tool/reportline.h"
 
@@ -14,47 +16,55 @@ namespace {
 
 std::string DisplayName(const Object& row) { return LineText(*row.Find("displayName")); }
 
-struct Line {
+struct Entry {
   std::size_t number;
+  std::string part;  // what to say first of why it doesn't count
   std::string text;
-  std::string fault;
   std::string key;
   std::string translation;
 };
+
+template <class Lines>
+void SortByNumber(Lines& lines) {
+  std::stable_sort(lines.begin(), lines.end(),
+                   [](const auto& a, const auto& b) { return a.number < b.number; });
+}
 
 class Table {
  public:
   explicit Table(const std::string& file) {
     AFilePath path(file.c_str());
     ReadTranslationTable(path, [this](const TableLine& line) { Take(line); });
+    SortByNumber(entries_);
+    SortByNumber(ignored_);
   }
 
-  const std::vector<Line>& Lines() const { return lines_; }
-  bool Has(const std::string& name) const { return byKey_.count(name) != 0; }
+  const std::vector<Entry>& Entries() const { return entries_; }
+  const std::vector<IgnoredLine>& Ignored() const { return ignored_; }
+  bool Has(const std::string& name) const { return places_.count(name) != 0; }
 
  private:
   void Take(const TableLine& line) {
-    const std::string text(Trimmed(line.Text));
-    const bool isRest = !lines_.empty() && lines_.back().number == line.Number;
-    if (text.empty()) return;
-    Line taken{line.Number, text, line.Fault != nullptr ? line.Fault : "",
-               static_cast<const char*>(line.Pair.Key),
-               static_cast<const char*>(line.Pair.Translation)};
-    if (isRest && line.Fault != nullptr) {
-      taken.fault = "the rest of a line of more than 1,023 characters: " + taken.fault;
+    const TextLine& text = line.Line;
+    AddIgnored(text, line.Fault, ignored_);
+    if (line.Fault != nullptr) return;
+    Entry entry{text.Number, ReasonIn(text, ""), std::string(Trimmed(text.Text)),
+                static_cast<const char*>(line.Pair.Key),
+                static_cast<const char*>(line.Pair.Translation)};
+    const auto [place, isFirst] = places_.emplace(entry.key, entries_.size());
+    if (isFirst) {
+      entries_.push_back(std::move(entry));
+      return;
     }
-    if (line.Fault == nullptr) {
-      const auto [former, isFirst] = byKey_.emplace(taken.key, lines_.size());
-      if (!isFirst) {
-        lines_[former->second].fault = "line " + std::to_string(line.Number) + " has the same key";
-        former->second = lines_.size();
-      }
-    }
-    lines_.push_back(std::move(taken));
+    Entry& former = entries_[place->second];
+    const std::string reason = "line " + std::to_string(text.Number) + " has the same key";
+    ignored_.push_back({former.number, former.part + reason, former.text});
+    former = std::move(entry);
   }
 
-  std::vector<Line> lines_;  // but for empty ones
-  std::unordered_map<std::string, std::size_t> byKey_;
+  std::vector<Entry> entries_;  // those that count
+  std::vector<IgnoredLine> ignored_;
+  std::unordered_map<std::string, std::size_t> places_;  // of the entries as they are read
 };
 
 // One row for each name of a list, with the ids of all entries that bear it.
@@ -80,8 +90,6 @@ List NamesWithoutEntry(const std::vector<ShownName>& names, const Table& table) 
   return rows;
 }
 
-Value LineNumber(const Line& line) { return static_cast<int>(line.number); }
-
 }  // namespace
 
 std::vector<ShownName> ShownNames(APMQDF& document) {
@@ -106,19 +114,13 @@ void AddUntranslated(APMQDF& document, const std::string& file, Object& report) 
   std::unordered_set<std::string_view> used;
   for (const ShownName& each : names) used.insert(each.name);
   List unused;
-  List ignored;
-  for (const Line& line : table.Lines()) {
-    if (!line.fault.empty()) {
-      ignored.emplace_back(Object{{"line", "Line", LineNumber(line)},
-                                  {"reason", "Why", line.fault},
-                                  {"text", "Text", line.text}});
-    } else if (used.count(line.key) == 0) {
-      unused.emplace_back(Object{{"line", "Line", LineNumber(line)},
-                                 {"key", "Key", line.key},
-                                 {"translation", "Translation", line.translation}});
-    }
+  for (const Entry& entry : table.Entries()) {
+    if (used.count(entry.key) != 0) continue;
+    unused.emplace_back(Object{{"line", "Line", static_cast<int>(entry.number)},
+                               {"key", "Key", entry.key},
+                               {"translation", "Translation", entry.translation}});
   }
   report.Add({"untranslated", "Names without an entry", NamesWithoutEntry(names, table)});
   report.Add({"unused", "Entries that no name uses", std::move(unused)});
-  report.Add({"ignored", "Lines that don't count", std::move(ignored)});
+  report.Add(IgnoredField("Lines that don't count", table.Ignored()));
 }

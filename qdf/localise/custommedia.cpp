@@ -114,9 +114,9 @@ int CCustomMediaInfoInter::HasIccprofile(const AString& profile) {
 int CCustomMediaInfoInter::LoadCustomMediaFile() {
   if (CustomMediaPath.exists() == 0 || CustomMediaPath.isDirectory() != 0) return 1;
   bool whole = true;
-  const auto take = [&](std::size_t, const char* text) {
+  const auto take = [&](const TextLine& each) {
     CustomMediaLine line;
-    if (ReadCustomMediaLine(text, line) != nullptr) return;
+    if (ReadCustomMediaLine(each.Text, line) != nullptr) return;
     const AString media = ToAString(line.media);
     const AString value = ToAString(line.value);
     switch (line.kind) {

@@ -94,7 +94,7 @@ void PMLocalizeQDFByTranslationTable(APMQDF* document) {
     if (table.GetLength() == 0) return 0;
     AFilePath path = InOutputDrivers(table);
     Translations translations;
-    ForEachLine(path, [&](std::size_t, const char* line) { AddLine(line, translations); });
+    ForEachLine(path, [&](const TextLine& line) { AddLine(line.Text, translations); });
     if (!translations.IsEmpty()) TranslateDocument(*document, translations);
     return 1;
   });

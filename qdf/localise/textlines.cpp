@@ -5,14 +5,17 @@
 #include "qdf/support/afile.h"
 #include "qdf/support/text.h"
 
-int ForEachLine(AFilePath& path,
-                const std::function<void(std::size_t number, const char* text)>& take) {
-  constexpr unsigned int kCapacity = 1024;
+int ForEachLine(AFilePath& path, const std::function<void(const TextLine& line)>& take) {
+  constexpr unsigned int kCapacity = kLongestLine + 1;
   AStdioFile file;
   if (file.Open(path, AFile::kRead, nullptr, AFile::kAnyFile) == 0) return 0;
   std::array<char, kCapacity> line{};
+  std::size_t piece = 0;
   while (file.ReadString(line.data(), kCapacity) != nullptr) {
-    take(file.GetLineNumber(), line.data());
+    const bool goesOn = file.LineGoesOn();
+    if (goesOn || piece > 0) ++piece;
+    take({file.GetLineNumber(), piece, line.data(), file.GetLength()});
+    if (!goesOn) piece = 0;
   }
   file.Close();
   return 1;

@@ -37,9 +37,9 @@ std::size_t DecodeRun(std::string_view text, std::size_t at, std::string& decode
 }  // namespace
 
 int ReadTranslationTable(AFilePath& path, const std::function<void(const TableLine& line)>& take) {
-  return ForEachLine(path, [&](std::size_t number, const char* text) {
-    TableLine line{number, text, nullptr, {}};
-    line.Fault = ReadTableLine(text, line.Pair);
+  return ForEachLine(path, [&](const TextLine& text) {
+    TableLine line{text, nullptr, {}};
+    line.Fault = ReadTableLine(text.Text, line.Pair);
     take(line);
   });
 }

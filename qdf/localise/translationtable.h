@@ -7,9 +7,9 @@
 // Keys and values count without the white space around them. A key may be written with an asterisk
 // before it, a value with a slash before and a colon behind it; none of these belongs to the text.
 
-#include <cstddef>
 #include <functional>
 
+#include "qdf/localise/textlines.h"
 #include "qdf/support/afilepath.h"
 #include "qdf/support/astring.h"
 
@@ -19,8 +19,7 @@ struct TranslationPair {
 };
 
 struct TableLine {
-  std::size_t Number;    // from 1; the pieces of a line that is too long share theirs
-  const char* Text;      // as it stands in the file, with its line end
+  TextLine Line;
   const char* Fault;     // null when the line counts, otherwise why it doesn't, in a few words
   TranslationPair Pair;  // empty when the line doesn't count
 };

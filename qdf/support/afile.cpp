@@ -34,6 +34,7 @@ char* AStdioFile::ReadString(char* buffer, unsigned int capacity) {
   buffer[length] = '\0';
   if (lineEnded_) ++lineNumber_;
   lineEnded_ = rest[length - 1] == '\n';
+  length_ = length;
   at_ += length;
   return buffer;
 }
@@ -53,5 +54,6 @@ void AStdioFile::Close() {
   content_ = FileBytes();
   at_ = 0;
   lineNumber_ = 0;
+  length_ = 0;
   lineEnded_ = true;
 }

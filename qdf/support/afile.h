@@ -46,8 +46,11 @@ class AStdioFile : public AFile {
   // open for reading, and for a capacity that leaves no room for a character.
   char* ReadString(char* buffer, unsigned int capacity);
 
-  // The number, from 1, of the line that was read last, also when it came in pieces.
+  // Of what was read last: the number, from 1, of its line, also when that came in pieces; its
+  // bytes, those from a NUL on included; whether there is more of the line.
   std::size_t GetLineNumber() const { return lineNumber_; }
+  std::size_t GetLength() const { return length_; }
+  bool LineGoesOn() const { return !lineEnded_ && at_ < content_.Text().size(); }
 
   // Adds exactly these bytes to a file that is open for writing. They are kept until Close, which
   // stores all of them or, when there is no room, none; neither has a result. A relative path is
@@ -60,6 +63,7 @@ class AStdioFile : public AFile {
   FileBytes content_;  // what is read
   std::size_t at_ = 0;
   std::size_t lineNumber_ = 0;
+  std::size_t length_ = 0;
   bool lineEnded_ = true;
 
   bool writing_ = false;

@@ -91,7 +91,8 @@ TEST(TranslationTable, TellsWhichLinesDoNotCountAndWhy) {
   std::vector<std::string> lines;
   AFilePath filePath(path.c_str());
   const int read = ReadTranslationTable(filePath, [&](const TableLine& line) {
-    std::string text = std::to_string(line.Number) + " ";
+    std::string text = std::to_string(line.Line.Number) + " ";
+    if (line.Line.Piece > 0) text += "piece " + std::to_string(line.Line.Piece) + " ";
     text.append(line.Fault != nullptr ? AString(line.Fault) : line.Pair.Translation);
     lines.push_back(text);
   });
@@ -103,8 +104,8 @@ TEST(TranslationTable, TellsWhichLinesDoNotCountAndWhy) {
             "4 the key has fewer than two characters\n"
             "5 the value has fewer than two characters\n"
             "6 nothing is left of the value\n"
-            "7 it has no \"=\"\n"
-            "7 nothing stands before the \"=\"\n"
+            "7 piece 1 it has no \"=\"\n"
+            "7 piece 2 nothing stands before the \"=\"\n"
             "8 last");
   AFilePath missing(folder.Path("missing").c_str());
   EXPECT_EQ(ReadTranslationTable(missing, [](const TableLine&) { FAIL(); }), 0);

@@ -101,12 +101,24 @@ Lines that don't count (3)
 )"}));
 }
 
-TEST_F(QdfLocalise, TellsOfLinesThatAreReadInPieces) {
-  folder_.Write("OutputDrivers/small.txt", "Glossy=" + std::string(1020, 'x') + "\nA4=DIN A4\n");
+TEST_F(QdfLocalise, TellsOfPiecesOfLinesAndOfWhatANulHides) {
+  using namespace std::string_literals;
+  folder_.Write("OutputDrivers/small.txt",
+                "Glossy=" + std::string(1020, 'x') +
+                    "\nA4=DIN\0 A4\n \0A3=DIN A3\nGlossy=Matt\nPlain=Uni\0\n"s);
   const nlohmann::json report =
       RunJson({"localise", "small.qdf", "--untranslated"}, {folder_.Path()});
-  EXPECT_EQ(report["ignored"], nlohmann::json::parse(R"([{"line": 1, "text": "xxxx", "reason":
-                "the rest of a line of more than 1,023 characters: it has no \"=\""}])"));
+  std::string ignored;
+  for (const nlohmann::json& row : report["ignored"]) {
+    const std::string text = row["text"];
+    ignored += std::to_string(row["line"].get<int>()) + ' ' + std::string(row["reason"]) + " | " +
+               text.substr(0, 8) + '\n';
+  }
+  EXPECT_EQ(ignored,
+            "1 a line of more than 1,023 characters, piece 2: it has no \"=\" | xxxx\n"
+            "1 a line of more than 1,023 characters, piece 1: line 4 has the same key | Glossy=x\n"
+            "2 what stands behind a NUL isn't read | A4\n"
+            "3 what stands behind a NUL isn't read | A3=DIN A\n");
 }
 
 TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
