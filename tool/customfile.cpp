@@ -1,9 +1,8 @@
 #include "tool/customfile.h"
 
-#include <algorithm>
+#include <unordered_map>
 
 #include "qdf/localise/textlines.h"
-#include "qdf/support/text.h"
 #include "tool/failure.h"
 #include "tool/files.h"
 
@@ -11,23 +10,45 @@ namespace {
 
 using Kind = CustomMediaLine::Kind;
 
-void Take(const CustomMediaLine& line, CustomFile& file) {
-  const std::string value(line.value);
-  if (line.kind == Kind::Profile) {
-    file.profiles.push_back(value);
-    return;
-  }
-  auto found = std::find_if(file.media.begin(), file.media.end(),
-                            [&](const CustomMedium& medium) { return medium.name == line.media; });
-  if (found == file.media.end()) {
-    found = file.media.insert(found, {std::string(line.media)});
-  }
-  auto& text = line.kind == Kind::NameForMedia ? found->displayName : found->profile;
-  text = value.empty() ? std::nullopt : std::optional(value);
-}
+// A custom media file as it comes about, line by line.
+class Growing {
+ public:
+  explicit Growing(const std::string& path);
 
-void DropUnset(CustomFile& file) {
-  std::erase_if(file.media, [](const CustomMedium& medium) { return !medium.IsSet(); });
+  void Take(const CustomMediaLine& line) {
+    const std::string value(line.value);
+    if (line.kind == Kind::Profile) {
+      file_.profiles.push_back(value);
+      return;
+    }
+    const auto [place, isNew] = places_.emplace(line.media, file_.media.size());
+    if (isNew) file_.media.push_back({place->first});
+    CustomMedium& medium = file_.media[place->second];
+    auto& text = line.kind == Kind::NameForMedia ? medium.displayName : medium.profile;
+    text = value.empty() ? std::nullopt : std::optional(value);
+  }
+
+  CustomFile Finish() && {
+    std::erase_if(file_.media, [](const CustomMedium& medium) { return !medium.IsSet(); });
+    return std::move(file_);
+  }
+
+ private:
+  CustomFile file_;
+  std::unordered_map<std::string, std::size_t> places_;  // of the media
+};
+
+Growing::Growing(const std::string& path) {
+  file_.exists = Exists(path);
+  if (!file_.exists) return;
+  ReadWhole(path);
+  AFilePath place(path.c_str());
+  ForEachLine(place, [&](const TextLine& text) {
+    CustomMediaLine line;
+    const char* fault = ReadCustomMediaLine(text.Text, line);
+    AddIgnored(text, fault, file_.ignored);
+    if (fault == nullptr) Take(line);
+  });
 }
 
 void Apply(const CustomChange& change, CCustomMediaInfoInter& media) {
@@ -47,43 +68,34 @@ void Apply(const CustomChange& change, CCustomMediaInfoInter& media) {
 }
 
 void RefuseEmptying(const std::string& path, const std::vector<CustomChange>& changes) {
-  CustomFile file = ReadCustomFile(path);
-  for (const CustomChange& change : changes) {
-    Take({change.kind, change.media, change.value}, file);
-  }
-  DropUnset(file);
-  if (file.HasEntries()) return;
+  Growing file(path);
+  for (const CustomChange& change : changes) file.Take({change.kind, change.media, change.value});
+  if (std::move(file).Finish().HasEntries()) return;
   throw Failure(kNoAnswer,
                 path +
                     ": that would remove the last entry, but the library never writes a "
                     "file without entries, so the old lines would stay; delete the file");
 }
 
+// Throws, and the object then saves nothing on its end, since a failed load leaves no entries.
+void Load(const std::string& path, CCustomMediaInfoInter& media) {
+  if (media.LoadCustomMediaFile() != 0) return;
+  ReadWhole(path);
+  throw Failure(kNoAnswer, path + ": there isn't enough memory to read it");
+}
+
 }  // namespace
 
-CustomFile ReadCustomFile(const std::string& path) {
-  CustomFile file;
-  file.exists = Exists(path);
-  if (!file.exists) return file;
-  ReadWhole(path);
-  AFilePath place(path.c_str());
-  ForEachLine(place, [&](const TextLine& text) {
-    CustomMediaLine line;
-    const char* fault = ReadCustomMediaLine(text.Text, line);
-    AddIgnored(text, fault, file.ignored);
-    if (fault == nullptr) Take(line, file);
-  });
-  DropUnset(file);
-  return file;
-}
+CustomFile ReadCustomFile(const std::string& path) { return Growing(path).Finish(); }
 
 CustomFile ChangeCustomFile(const std::string& path, const std::vector<CustomChange>& changes) {
   RefuseEmptying(path, changes);
   AFilePath place(path.c_str());
   CCustomMediaInfoInter media(place);
-  bool done = media.LoadCustomMediaFile() != 0;
+  Load(path, media);
   for (const CustomChange& change : changes) Apply(change, media);
-  done = done && media.SaveCustomMediaFile() != 0;
-  if (!done) throw Failure(kNoAnswer, path + ": it can't be saved: " + WhyNotSaved(path));
+  if (media.SaveCustomMediaFile() == 0) {
+    throw Failure(kNoAnswer, path + ": it can't be saved: " + WhyNotSaved(path));
+  }
   return ReadCustomFile(path);
 }

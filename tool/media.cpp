@@ -1,6 +1,7 @@
 // qdf media: the custom media file that a document names.
 
-#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "tool/command.h"
 #include "tool/customfile.h"
@@ -63,34 +64,35 @@ std::vector<CustomChange> ParseChanges(const Arguments& arguments) {
 // Somebody who removes what isn't there has mistaken the medium.
 void RefuseUnknown(const std::string& path, const CustomFile& file,
                    const std::vector<CustomChange>& changes) {
+  std::unordered_set<std::string> known;
+  for (const CustomMedium& medium : file.media) known.insert(medium.name);
   for (const CustomChange& change : changes) {
-    const bool isKnown = std::any_of(file.media.begin(), file.media.end(), [&](const auto& medium) {
-      return medium.name == change.media;
-    });
-    if (isKnown || !change.value.empty()) continue;
+    if (!change.value.empty() || known.count(change.media) != 0) continue;
     throw Failure(kWrongUsage, path + ": nothing is set for medium " + Quoted(change.media));
   }
 }
 
-// The ids of the document's media that bear the name, internal or displayed.
-List IDsOf(const List& media, const std::string& name) {
-  List ids;
-  for (const Value& entry : media) {
+// By each name of the document's media, internal or displayed, the ids of those that bear it.
+std::unordered_map<std::string, List> IDsByName(APMQDF& document) {
+  std::unordered_map<std::string, List> ids;
+  for (const Value& entry : kDocumentLists[kMedia].rows(document)) {
     const Object& row = *AsObject(entry);
-    const auto bears = [&](const char* key) { return *row.Find(key) == Value(name); };
-    if (bears("internalName") || bears("displayName")) ids.push_back(*row.Find("id"));
+    const std::string internal = LineText(*row.Find("internalName"));
+    const std::string displayed = LineText(*row.Find("displayName"));
+    ids[internal].push_back(*row.Find("id"));
+    if (displayed != internal) ids[displayed].push_back(*row.Find("id"));
   }
   return ids;
 }
 
 List MediaRows(const CustomFile& file, APMQDF& document) {
-  const List known = kDocumentLists[kMedia].rows(document);
+  std::unordered_map<std::string, List> ids = IDsByName(document);
   List rows;
   for (const CustomMedium& medium : file.media) {
     rows.emplace_back(Object{{"media", "Medium", medium.name},
                              {"displayName", "Display name", OrNull(medium.displayName)},
                              {"profile", "Profile", OrNull(medium.profile)},
-                             {"ids", "IDs in the document", IDsOf(known, medium.name)}});
+                             {"ids", "IDs in the document", ids[medium.name]}});
   }
   return rows;
 }

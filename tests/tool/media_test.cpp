@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "tests/children.h"
@@ -131,6 +132,21 @@ TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {
     EXPECT_EQ(Run(refusal.words), (Outcome{2, "", "qdf: " + refusal.line + '\n'}));
   }
   EXPECT_EQ(File(), kFile);
+}
+
+TEST_F(QdfMedia, TakesSecondsAtMostForAFullFile) {
+  std::string text;
+  for (int i = 0; i < 60'000; ++i) {
+    text += "key_DisplayName_ForMedia=medium" + std::to_string(i) + "/name\n";
+  }
+  folder_.Write(kPath, text);
+  EXPECT_EQ(InChild([&] {
+              const rlimit seconds{5, 5};
+              setrlimit(RLIMIT_CPU, &seconds);
+              return Run({"--set-name", "medium59999=last"}).code;
+            }),
+            0);
+  EXPECT_EQ(File(), text.replace(text.rfind("name"), 4, "last"));
 }
 
 TEST_F(QdfMedia, SaysWhyTheFileCannotBeReadOrSaved) {
