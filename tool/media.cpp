@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "qdf/support/text.h"
 #include "tool/command.h"
 #include "tool/customfile.h"
 #include "tool/driverfile.h"
@@ -14,19 +15,33 @@ namespace {
 
 using Kind = CustomMediaLine::Kind;
 
+bool LosesBlanks(const std::string& text) { return Trimmed(text).size() != text.size(); }
+
+// Why the change's line wouldn't read back as what was meant; empty when it would.
+std::string WhyNoLine(const CustomChange& change) {
+  const bool hasMedium = change.kind != Kind::Profile;
+  const std::size_t length =
+      MakeCustomMediaLine({change.kind, change.media, change.value}).size() - 1;
+  if (hasMedium && change.media.empty()) return "the name of the medium is empty";
+  if (change.media.find('/') != std::string::npos) return "the name of a medium can't hold \"/\"";
+  if ((change.media + change.value).find('\n') != std::string::npos) {
+    return "a line of the file can't hold a line break";
+  }
+  if (LosesBlanks(change.media) || LosesBlanks(change.value)) {
+    return "white space at the ends of a text gets lost";
+  }
+  if (length <= kLongestLine) return {};
+  return "a line of the file has at most 1,023 characters, not " + std::to_string(length);
+}
+
 // A change must read back as what was meant.
 void RefuseUnreadable(const std::string& option, const CustomChange& change) {
-  constexpr std::size_t kLongestLine = 1023;
-  std::string text = MakeCustomMediaLine({change.kind, change.media, change.value});
-  text.pop_back();
-  CustomMediaLine line;
-  const bool same = text.size() <= kLongestLine && text.find('\n') == std::string::npos &&
-                    ReadCustomMediaLine(text, line) == nullptr && line.media == change.media &&
-                    line.value == change.value;
-  if (same) return;
-  throw Failure(kWrongUsage, option + ": a line of the file can't hold " +
-                                 Quoted(change.media.empty() ? change.value
-                                                             : change.media + '=' + change.value));
+  const std::string reason = WhyNoLine(change);
+  if (reason.empty()) return;
+  const std::string given = change.value.empty()
+                                ? change.media
+                                : change.media + (change.media.empty() ? "" : "=") + change.value;
+  throw Failure(kWrongUsage, option + ": " + reason + ": " + Quoted(given));
 }
 
 CustomChange ParsePair(const std::string& option, Kind kind, const std::string& given) {

@@ -14,5 +14,6 @@ struct Printable {
 // UTF-8, and characters that turn the direction of writing.
 Printable MakePrintable(std::string_view text);
 
-// The text in quotation marks, for messages. It isn't made printable: messages are as a whole.
+// The text in quotation marks, for messages, cut behind about 100 bytes. It isn't made printable:
+// messages are as a whole.
 std::string Quoted(std::string_view text);

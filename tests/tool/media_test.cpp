@@ -110,7 +110,8 @@ TEST_F(QdfMedia, NeverHidesThatTheLastEntryStays) {
 
 TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {
   const std::string file = kPath;
-  const std::string tooLong(1000, 'x');
+  std::string tooLong = "x";
+  while (tooLong.size() < 997) tooLong += "\u00e9";
   const struct {
     Words words;
     std::string line;
@@ -119,12 +120,17 @@ TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {
       {{"--set-profile", "=p"},
        "--set-profile takes a medium, \"=\" and what to set for it, not \"=p\""},
       {{"--add-profile", ""}, "--add-profile takes the name of a profile"},
-      {{"--set-name", "a/b=c"}, "--set-name: a line of the file can't hold \"a/b=c\""},
-      {{"--set-name", "a=b\nc"}, "--set-name: a line of the file can't hold \"a=b\\x0Ac\""},
-      {{"--set-name", "a= b"}, "--set-name: a line of the file can't hold \"a= b\""},
-      {{"--add-profile", " p"}, "--add-profile: a line of the file can't hold \" p\""},
+      {{"--set-name", "a/b=c"}, "--set-name: the name of a medium can't hold \"/\": \"a/b=c\""},
+      {{"--remove", ""}, "--remove: the name of the medium is empty: \"\""},
+      {{"--set-name", "a=b\nc"},
+       "--set-name: a line of the file can't hold a line break: \"a=b\\x0Ac\""},
+      {{"--set-name", "a= b"}, "--set-name: white space at the ends of a text gets lost: \"a= b\""},
+      {{"--set-name", " =b"}, "--set-name: white space at the ends of a text gets lost: \" =b\""},
+      {{"--add-profile", " p"},
+       "--add-profile: white space at the ends of a text gets lost: \" p\""},
       {{"--set-name", "a=" + tooLong},
-       "--set-name: a line of the file can't hold \"a=" + tooLong + "\""},
+       "--set-name: a line of the file has at most 1,023 characters, not 1024: \"a=" +
+           tooLong.substr(0, 97) + "...\""},
       {{"--remove", "Pl"}, file + ": nothing is set for medium \"Pl\""},
       {{"--set-profile", "gl="}, file + ": nothing is set for medium \"gl\""},
   };
