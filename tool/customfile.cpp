@@ -47,7 +47,10 @@ Growing::Growing(const std::string& path) {
     CustomMediaLine line;
     const char* fault = ReadCustomMediaLine(text.Text, line);
     AddIgnored(text, fault, file_.ignored);
-    if (fault == nullptr) Take(line);
+    file_.lines = text.Number;
+    if (fault != nullptr) return;
+    ++file_.countingLines;
+    Take(line);
   });
 }
 

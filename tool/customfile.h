@@ -20,6 +20,8 @@ struct CustomMedium {
 
 struct CustomFile {
   bool exists = false;
+  std::size_t lines = 0;
+  std::size_t countingLines = 0;  // also those that set nothing
   std::vector<std::string> profiles;
   std::vector<CustomMedium> media;   // by first appearance; all are set
   std::vector<IgnoredLine> ignored;  // but for empty lines

@@ -3,6 +3,7 @@
 #include "qdf/support/outputdrivers.h"
 #include "qdf/support/text.h"
 #include "tool/failure.h"
+#include "tool/files.h"
 #include "tool/printable.h"
 
 namespace {
@@ -22,4 +23,10 @@ std::string DriverFilePath(const Document& document, const AString& name, const 
                                  Quoted(View(name)) + ", is no bare file name");
   }
   return static_cast<const char*>(InOutputDrivers(name));
+}
+
+void RefuseDriverFile(const std::string& path, const AString& name, const char* what) {
+  if (name.GetLength() == 0) return;
+  if (!IsSameFile(path, static_cast<const char*>(InOutputDrivers(name)))) return;
+  throw Failure(kNoAnswer, path + ": this is the document's " + what);
 }

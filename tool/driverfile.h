@@ -11,3 +11,7 @@
 // Throws a Failure when there is no name, or one that would lead out of OutputDrivers: the library
 // joins any name to the folder.
 std::string DriverFilePath(const Document& document, const AString& name, const char* what);
+
+// Throws a Failure when the path leads to the file in OutputDrivers that has that name as the
+// document's `what`: something else is about to be written there.
+void RefuseDriverFile(const std::string& path, const AString& name, const char* what);

@@ -53,6 +53,13 @@ bool Exists(const std::string& path) {
   return stat(path.c_str(), &status) == 0;
 }
 
+bool IsSameFile(const std::string& path, const std::string& other) {
+  struct stat one {};
+  struct stat two {};
+  return stat(path.c_str(), &one) == 0 && stat(other.c_str(), &two) == 0 &&
+         one.st_dev == two.st_dev && one.st_ino == two.st_ino;
+}
+
 void RequireFolder(const std::string& path) {
   struct stat status {};
   const char* fault = nullptr;

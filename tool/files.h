@@ -10,6 +10,9 @@
 
 bool Exists(const std::string& path);
 
+// Also through links of either kind. False unless both are there.
+bool IsSameFile(const std::string& path, const std::string& other);
+
 // Throws a Failure unless it is a folder that can be searched.
 void RequireFolder(const std::string& path);
 

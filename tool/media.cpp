@@ -7,6 +7,7 @@
 #include "tool/command.h"
 #include "tool/customfile.h"
 #include "tool/driverfile.h"
+#include "tool/files.h"
 #include "tool/lists.h"
 #include "tool/printable.h"
 #include "tool/reportline.h"
@@ -76,6 +77,19 @@ std::vector<CustomChange> ParseChanges(const Arguments& arguments) {
   return changes;
 }
 
+// The library takes any file that the document names, and would replace it.
+void RefuseOther(const std::string& path, const Document& document) {
+  RefuseDriverFile(path, document.content->GetTranslationTable(), "translation table");
+  if (!IsSameFile(path, document.path)) return;
+  throw Failure(kNoAnswer, path + ": this is the document itself");
+}
+
+void RefuseForeign(const std::string& path, const CustomFile& file) {
+  if (file.countingLines > 0 || file.ignored.empty()) return;
+  throw Failure(kNoAnswer, path + ": this is no custom media file: none of its " +
+                               std::to_string(file.lines) + " lines is an entry");
+}
+
 // Somebody who removes what isn't there has mistaken the medium.
 void RefuseUnknown(const std::string& path, const CustomFile& file,
                    const std::vector<CustomChange>& changes) {
@@ -132,10 +146,12 @@ Answer Media(const Arguments& arguments) {
   APMQDF& content = *document.content;
   const std::string path =
       DriverFilePath(document, content.GetCustomMediaFile(), "custom media file");
+  RefuseOther(path, document);
   Object report{{"document", "Document", document.path}, {"file", "Custom media file", path}};
   const CustomFile former = ReadCustomFile(path);
-  RefuseUnknown(path, former, changes);
   const bool saved = !changes.empty();
+  if (saved) RefuseForeign(path, former);
+  RefuseUnknown(path, former, changes);
   AddFile(saved ? ChangeCustomFile(path, changes) : former, former.ignored, saved, content, report);
   return {report};
 }

@@ -23,7 +23,7 @@ const Command kWriteCommand = {
     "write",
     "Write a document and tell what its written form loses",
     "The written form holds less than a document may. Each kind of loss is told with the first of\n"
-    "its kind. OUT may be the document itself.",
+    "its kind. OUT may be the document itself, but not its translation table or custom media file.",
     "qdf write plot36.qdf written.qdf",
     kOptions,
     Write,

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tests/files.h"
 #include "tests/tool/document.h"
@@ -132,6 +133,7 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
   folder_.Write("OutputDrivers/lost.qdf", document("lost.txt"));
   folder_.Write("OutputDrivers/folder.qdf", document("folder"));
   folder_.Write("OutputDrivers/folder/file", "");
+  ASSERT_EQ(symlink("OutputDrivers/small.txt", folder_.Path("link").c_str()), 0);
   const struct {
     const char* words;
     int code;
@@ -147,12 +149,16 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
        "OutputDrivers/lost.txt: no such file under the working folder, see -C"},
       {"folder.qdf", 1, "OutputDrivers/folder: it is a folder"},
       {"small.qdf -o no/new.qdf", 1, "no/new.qdf: it can't be saved: its folder isn't there"},
+      {"small.qdf -o OutputDrivers/small.txt", 1,
+       "OutputDrivers/small.txt: this is the document's translation table"},
+      {"small.qdf -o link", 1, "link: this is the document's translation table"},
       {"small.qdf -o x --untranslated", 2, "--output and --untranslated don't go together"},
   };
   for (const auto& refusal : refusals) {
     EXPECT_EQ(Run(refusal.words),
               (Outcome{refusal.code, "", std::string("qdf: ") + refusal.line + '\n'}));
   }
+  EXPECT_EQ(ReadFile(folder_.Path("OutputDrivers/small.txt")), kTable);
 }
 
 }  // namespace

@@ -174,6 +174,36 @@ TEST_F(QdfMedia, SaysWhyTheFileCannotBeReadOrSaved) {
             (Outcome{1, "", start + "no permission to read it\n"}));
 }
 
+TEST_F(QdfMedia, ReplacesNothingButACustomMediaFile) {
+  const std::string document = DocumentNaming("linked.qdf");
+  const std::string path = folder_.Write("OutputDrivers/self.qdf", document);
+  ASSERT_EQ(link(path.c_str(), folder_.Path("OutputDrivers/linked.qdf").c_str()), 0);
+  folder_.Write("OutputDrivers/table.qdf", DocumentNaming("small.txt"));
+  folder_.Write("OutputDrivers/small.txt", "key_Iccprofile=x\n");
+  const std::string notes = "key_iccprofile=x\n\nkey=\n";
+  folder_.Write(kPath, notes);
+  const struct {
+    const char* document;
+    std::string line;
+  } refusals[] = {
+      {"self.qdf", "OutputDrivers/linked.qdf: this is the document itself"},
+      {"table.qdf", "OutputDrivers/small.txt: this is the document's translation table"},
+      {"small.qdf", std::string(kPath) + ": this is no custom media file: none of its 3 lines is "
+                                         "an entry"},
+  };
+  for (const auto& refusal : refusals) {
+    EXPECT_EQ(RunTool({"media", refusal.document, "--set-name", "a=b"}, {folder_.Path()}),
+              (Outcome{1, "", "qdf: " + refusal.line + '\n'}));
+  }
+  EXPECT_EQ(ReadFile(path), document);
+  EXPECT_EQ(ReadFile(folder_.Path("OutputDrivers/small.txt")), "key_Iccprofile=x\n");
+  EXPECT_EQ(File(), notes);
+  for (const char* harmless : {"", " \n\n", "key_DisplayName_ForMedia=pl/\nnote\n"}) {
+    folder_.Write(kPath, harmless);
+    EXPECT_EQ(Run({"--set-name", "a=b"}).code, 0) << harmless;
+  }
+}
+
 TEST_F(QdfMedia, TouchesNothingOutsideOfOutputDrivers) {
   folder_.Write("OutputDrivers/none.qdf", kSmallDocument);
   folder_.Write("OutputDrivers/up.qdf", DocumentNaming("../up.txt"));
