@@ -30,6 +30,6 @@ void LimitFileSizes(unsigned long bytes) {
 bool MountSmallDisk(const char* folder) {
   if (unshare(CLONE_NEWNS) != 0 && unshare(CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
   const std::string size = "size=" + std::to_string(kSmallDisk);
-  return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+  return mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0 &&
          mount("tmpfs", folder, "tmpfs", 0, size.c_str()) == 0;
 }
