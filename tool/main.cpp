@@ -56,8 +56,8 @@ int RunAndTell(int count, char** words) {
   } catch (const Failure& failure) {
     Complain(failure);
     return failure.code == kNoAnswer ? noAnswer : failure.code;
-  } catch (const std::bad_alloc&) {
-    ComplainOfMemory();
+  } catch (const std::bad_alloc& lack) {
+    ComplainOfLack(lack);
   } catch (const std::exception& fault) {
     Complain(std::string("internal fault: ") + fault.what());
   }
@@ -72,8 +72,8 @@ int main(int count, char** words) {
   std::signal(SIGXFSZ, SIG_IGN);
   try {
     return RunAndTell(count, words);
-  } catch (const std::bad_alloc&) {
-    ComplainOfMemory();
+  } catch (const std::bad_alloc& lack) {
+    ComplainOfLack(lack);
   }
   return kNoAnswer;
 }

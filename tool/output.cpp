@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/text.h"
 #include "tool/printable.h"
 
@@ -71,4 +72,9 @@ bool Confirm(std::string_view question) {
   return EqualNoCase(word, "y") || EqualNoCase(word, "yes");
 }
 
-void ComplainOfMemory() { WriteAll(STDERR_FILENO, "qdf: out of memory\n"); }
+void ComplainOfLack(const std::bad_alloc& lack) {
+  const auto* named = dynamic_cast<const LackOfMeans*>(&lack);
+  WriteAll(STDERR_FILENO, "qdf: ");
+  WriteAll(STDERR_FILENO, named != nullptr ? named->what() : "out of memory");
+  WriteAll(STDERR_FILENO, "\n");
+}

@@ -2,6 +2,7 @@
 
 // The one place that writes to the standard streams, and reads an answer from there.
 
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -24,5 +25,5 @@ bool IsAtTerminal();
 // Asks at the terminal. Only "y" and "yes", in any case, mean yes.
 bool Confirm(std::string_view question);
 
-// Needs no memory.
-void ComplainOfMemory();
+// That memory or something of its kind ran out. Needs no memory.
+void ComplainOfLack(const std::bad_alloc& lack);

@@ -30,6 +30,7 @@ std::string Tell(const FolderVerdict& verdict) {
   if (verdict.fault == FolderFault::NotXML) {
     return static_cast<const char*>(verdict.xmlFault.Reason);
   }
+  if (verdict.fault == FolderFault::Unexamined) return static_cast<const char*>(verdict.lack);
   if (verdict.fault == FolderFault::WrongRelease) {
     const std::string release(static_cast<const char*>(verdict.release));
     return release.empty() ? "it has no release"
@@ -51,12 +52,20 @@ std::string PlaceOf(const FolderVerdict& verdict) {
   return place;
 }
 
+// Of a folder that wasn't examined there is none.
+Field VerdictField(const FolderVerdict& verdict) {
+  if (!verdict.IsSound() && !verdict.IsUnsound()) {
+    return {"sound", "Verdict", {}, "couldn't be examined"};
+  }
+  const bool isSound = verdict.IsSound();
+  return {"sound", "Verdict", isSound, isSound ? "sound" : "unsound"};
+}
+
 List Rows(const Folders& folders) {
   List rows;
   for (const MediaFolder& folder : folders) {
-    const bool isSound = folder.verdict.IsSound();
     rows.emplace_back(Object{{"media", "Media", static_cast<const char*>(folder.name)},
-                             {"sound", "Verdict", isSound, isSound ? "sound" : "unsound"},
+                             VerdictField(folder.verdict),
                              {"place", "File or folder", PlaceOf(folder.verdict)},
                              {"reason", "Why", Tell(folder.verdict)}});
   }
@@ -68,8 +77,8 @@ bool IsThere(const char* path) {
   return lstat(path, &status) == 0;
 }
 
-// Deletes what was found to be unsound, and no more.
-Answer Delete(const Folders& unsound) {
+// Deletes what was found to be unsound, and no more. The code is the answer's when all goes well.
+Answer Delete(const Folders& unsound, ExitCode code) {
   int deleted = 0;
   List left;
   for (const MediaFolder& folder : unsound) {
@@ -83,15 +92,15 @@ Answer Delete(const Folders& unsound) {
   Object report{{"deleted", "Deleted media folders", deleted}};
   const bool isDone = left.empty();
   report.Add({"left", isDone ? nullptr : "Not or not wholly deleted", std::move(left)});
-  return {report, isDone ? kAnswered : kNoAnswer};
+  return {report, isDone ? code : kNoAnswer};
 }
 
 std::shared_ptr<const Question> AskToDelete(const std::string& folder, const Folders& unsound,
-                                            std::size_t all) {
+                                            std::size_t all, ExitCode code) {
   const std::string counts = std::to_string(unsound.size()) + " of " + std::to_string(all);
   return std::make_shared<Question>(
       Question{"Delete for good what is unsound, " + counts + " media folders?",
-               [=] { return Delete(unsound); }, folder + ": nothing was deleted",
+               [=] { return Delete(unsound, code); }, folder + ": nothing was deleted",
                folder + ": nothing was deleted: nobody is at a terminal to be asked, see --yes"});
 }
 
@@ -103,19 +112,22 @@ Answer Sweep(const Arguments& arguments) {
   RequireFolder(folder);
   const Folders folders = ExamineMediaFolders(AFilePath(folder.c_str()));
   Folders unsound;
+  bool areExamined = true;
   for (const MediaFolder& each : folders) {
-    if (!each.verdict.IsSound()) unsound.push_back(each);
+    areExamined = areExamined && each.verdict.fault != FolderFault::Unexamined;
+    if (each.verdict.IsUnsound()) unsound.push_back(each);
   }
   Answer answer{{{"folder", "Folder", folder},
                  {"unsound", "Unsound", static_cast<int>(unsound.size())},
                  {"media", "Media folders", Rows(folders)}}};
+  if (!areExamined) answer.code = kNoAnswer;
   if (isDry) return answer;
   if (isSure || unsound.empty()) {
-    Answer deletion = Delete(unsound);
+    Answer deletion = Delete(unsound, answer.code);
     for (Field& field : deletion.report.fields) answer.report.Add(std::move(field));
     answer.code = deletion.code;
   } else {
-    answer.question = AskToDelete(folder, unsound, folders.size());
+    answer.question = AskToDelete(folder, unsound, folders.size(), answer.code);
   }
   return answer;
 }

@@ -36,7 +36,9 @@ void ReadChildren(const AXMLTree& tree, const AXMLTreeNode& root, HPResourceInfo
 }
 
 bool HasLoaded(const AXMLTree& tree, int loaded) {
-  if (loaded == 0 && tree.loadFault().LackedMeans) throw std::bad_alloc();
+  if (loaded == 0 && tree.loadFault().LackedMeans) {
+    throw LackOfMeans(View(tree.loadFault().Reason));
+  }
   return loaded != 0;
 }
 

@@ -55,11 +55,13 @@ bool IsResource(const DirectoryEntry& entry, const AString& path) {
   return exists;
 }
 
+FolderVerdict ExamineFolder(const AString& folder, int level);
+
 FolderVerdict ExamineEntry(const DirectoryEntry& entry, const AString& path, int level,
                            bool& hasResource) {
   const bool isFolder = entry.kind == EntryKind::Folder;
   if (level == kMediaLevel) {
-    return isFolder ? ExamineHPFolder(path, level + 1) : Fault(FolderFault::FileInMedia, path);
+    return isFolder ? ExamineFolder(path, level + 1) : Fault(FolderFault::FileInMedia, path);
   }
   if (isFolder) return Fault(FolderFault::FolderInQuality, path);
   if (!IsResource(entry, path)) return {};
@@ -67,9 +69,7 @@ FolderVerdict ExamineEntry(const DirectoryEntry& entry, const AString& path, int
   return ExamineResource(path);
 }
 
-}  // namespace
-
-FolderVerdict ExamineHPFolder(const AString& folder, int level) {
+FolderVerdict ExamineFolder(const AString& folder, int level) {
   std::vector<DirectoryEntry> entries;
   if (!SearchFolder(folder, entries)) return Fault(FolderFault::Unsearchable, folder);
   if (entries.empty()) return Fault(FolderFault::Empty, folder);
@@ -80,6 +80,24 @@ FolderVerdict ExamineHPFolder(const AString& folder, int level) {
   }
   const bool lacksResource = level != kMediaLevel && !hasResource;
   return lacksResource ? Fault(FolderFault::NoResource, folder) : FolderVerdict();
+}
+
+FolderVerdict Unexamined(const AString& folder, const char* lack) {
+  FolderVerdict verdict = Fault(FolderFault::Unexamined, folder);
+  verdict.lack = lack;
+  return verdict;
+}
+
+}  // namespace
+
+FolderVerdict ExamineHPFolder(const AString& folder, int level) {
+  try {
+    return ExamineFolder(folder, level);
+  } catch (const LackOfMeans& lack) {
+    return Unexamined(folder, lack.what());
+  } catch (const std::bad_alloc&) {
+    return Unexamined(folder, "out of memory");
+  }
 }
 
 std::vector<MediaFolder> FindMediaFolders(const AFilePath& folder) {
@@ -100,5 +118,5 @@ std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder) {
 }
 
 int CheckHPFolder(AString folder, int level) {
-  return OrOnNoMemory(0, [&] { return ExamineHPFolder(folder, level).IsSound() ? 0 : 1; });
+  return OrOnNoMemory(0, [&] { return ExamineHPFolder(folder, level).IsUnsound() ? 1 : 0; });
 }

@@ -17,6 +17,7 @@ enum class FolderFault {
   NoResource,    // a quality folder holds no resource file; a link is none
   NotXML,        // a resource file can't be read or isn't well formed
   WrongRelease,  // its release is missing, below 2, or 3 and more
+  Unexamined,    // no fault of the folder: memory or descriptors ran out, or a path is too long
 };
 
 // What is wrong with a folder: the first fault, in the order of a search, ends its examination.
@@ -25,8 +26,11 @@ struct FolderVerdict {
   AString path;        // of the folder or file that gave the fault, empty without one
   AXMLFault xmlFault;  // of a file that is NotXML
   AString release;     // of a file with the WrongRelease, as it stands there
+  AString lack;        // what was missing to examine an Unexamined folder
 
+  // A folder that wasn't examined is neither.
   bool IsSound() const { return fault == FolderFault::None; }
+  bool IsUnsound() const { return !IsSound() && fault != FolderFault::Unexamined; }
 };
 
 struct MediaFolder {
@@ -43,9 +47,9 @@ std::vector<MediaFolder> FindMediaFolders(const AFilePath& folder);
 // The same with what a sweep finds in them. Changes nothing.
 std::vector<MediaFolder> ExamineMediaFolders(const AFilePath& folder);
 
-// Level 1 means a media folder, and level 2 a quality folder. Throws as well.
+// Level 1 means a media folder, and level 2 a quality folder. Where FindMediaFolders throws, the
+// folder is Unexamined, as one that lies too deep is: the others have their verdicts all the same.
 FolderVerdict ExamineHPFolder(const AString& folder, int level);
 
-// 1 when the folder has a fault, else 0; 0 also where the others throw, so that nothing is deleted
-// that nobody could look at.
+// 1 when the folder is unsound, else 0, so that nothing is deleted that nobody could look at.
 int CheckHPFolder(AString folder, int level);

@@ -5,7 +5,6 @@
 
 #include "qdf/core/documentmembers.h"
 #include "qdf/hpimport/discovery.h"
-#include "qdf/support/nothrow.h"
 #include "qdf/support/ownership.h"
 
 namespace {
@@ -51,10 +50,5 @@ UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
 
 UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder) {
   if (previous == nullptr) return {nullptr, UpdateFault::NoPreviousDocument};
-  UpdatedDocument updated{nullptr, UpdateFault::NoMemory};
-  OrOnNoMemory(0, [&] {
-    updated = Derive(*previous, resourceFolder);
-    return 1;
-  });
-  return updated;
+  return Derive(*previous, resourceFolder);
 }

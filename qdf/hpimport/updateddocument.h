@@ -16,7 +16,7 @@ enum class UpdateFault {
   NoMedia,      // no resource has a display name, or no number is left for a new media
   NoPrintMode,  // no quality folder's name begins with a known quality
   NoColorMode,  // no resource has a known ink layout
-  NoMemory,     // or no descriptors
+  NoMemory,
 };
 
 struct UpdatedDocument {
@@ -25,5 +25,6 @@ struct UpdatedDocument {
 };
 
 // Derives a document from the resources in and below the folder and from the previous document,
-// which may be null and stays as it is. Touches no file.
+// which may be null and stays as it is. Touches no file. A lack of memory or descriptors, or a path
+// that is too long, throws bad_alloc where it isn't the fault.
 UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder);

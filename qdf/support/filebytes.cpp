@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "qdf/support/lackofmeans.h"
+
 namespace {
 
 constexpr off_t kTooLarge = off_t{1} << 31;
@@ -18,12 +20,10 @@ const char* SystemReason() {
       return "no such file";
     case EACCES:
       return "no permission to read it";
-    case ENAMETOOLONG:
-      return "the name is too long";
     case ELOOP:
       return "the links lead nowhere";
     default:
-      return "it can't be read";
+      return LackedMeans() ? NameOfLack() : "it can't be read";
   }
 }
 

@@ -65,7 +65,7 @@ TEST(Files, MayStandDeepDown) {
   // One character more than the system takes.
   const std::string tooLong(4096, 'f');
   FileBytes bytes;
-  EXPECT_STREQ(ReadFileBytes(tooLong.c_str(), bytes), "the name is too long");
+  EXPECT_STREQ(ReadFileBytes(tooLong.c_str(), bytes), "the path is too long");
   EXPECT_FALSE(LoadsAndWrites(name + tooLong));
 }
 

@@ -102,6 +102,22 @@ TEST_F(QdfSweep, DeletesAfterAYesOnTheTerminal) {
   EXPECT_EQ(Run("tree").code, 0);
 }
 
+TEST_F(QdfSweep, SparesAloneWhatCannotBeExamined) {
+  const std::string name(200, 'L');
+  folder_.Write("tree/" + name + "/best/file", "");
+  std::string tree = "tree";
+  while (tree.size() < 3900) tree += "/.";  // leaves no room for the long name
+  const Outcome swept = Run(tree + " --yes --json");
+  EXPECT_EQ(swept.code, 1) << swept;
+  const nlohmann::json report = nlohmann::json::parse(swept.out, nullptr, false);
+  EXPECT_EQ(report["unsound"], 1);
+  EXPECT_EQ(report["deleted"], 1);
+  EXPECT_EQ(report["media"][1]["media"], name);
+  EXPECT_EQ(report["media"][1]["sound"], nullptr);
+  EXPECT_EQ(report["media"][1]["reason"], "the path is too long");
+  EXPECT_TRUE(Has(name) && Has("Good") && !Has("Old"));
+}
+
 TEST_F(QdfSweep, TellsWhatCannotBeDeleted) {
   fs::create_directory_symlink(folder_.Path("outside"), folder_.Path("tree/Old/link"));
   folder_.Write("tree/Loose/file", "");
