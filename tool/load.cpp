@@ -51,12 +51,15 @@ std::string WhyNot(AFilePath& path) {
   if (tree.loadFromFile(path, 1) != 0) return file + ": " + FaultsOf(tree);
   const AXMLFault& fault = tree.loadFault();
   const std::string reason = static_cast<const char*>(fault.Reason);
-  if (fault.Line == 0) return file + ": " + reason;
-  return file + ':' + std::to_string(fault.Line) + ':' + std::to_string(fault.Column) + ": " +
-         reason;
+  return PlaceOf(file, fault) + ": " + reason;
 }
 
 }  // namespace
+
+std::string PlaceOf(const std::string& file, const AXMLFault& fault) {
+  if (fault.Line == 0) return file;
+  return file + ':' + std::to_string(fault.Line) + ':' + std::to_string(fault.Column);
+}
 
 std::string DocumentPath(const std::string& name) {
   if (name.empty()) throw Failure(kWrongUsage, "the name of the document is empty");

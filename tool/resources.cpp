@@ -4,6 +4,7 @@
 #include "qdf/support/ownership.h"
 #include "tool/command.h"
 #include "tool/files.h"
+#include "tool/resourcefaults.h"
 
 namespace {
 
@@ -33,14 +34,17 @@ Answer Resources(const Arguments& arguments) {
   const std::string& folder = arguments.Get("DIR");
   RequireFolder(folder);
   OwnedItems<HPResourceInfo> resources;
-  if (!CollectHPResources(folder.c_str(), resources)) {
+  std::vector<PassedOver> passedOver;
+  if (!CollectHPResources(folder.c_str(), resources, passedOver)) {
     throw Failure(kNoAnswer, folder + ": a folder in it was moved while it was searched");
   }
   List rows;
   for (int i = 0; i < resources.GetSize(); ++i) {
     rows.emplace_back(MakeRow(*static_cast<const HPResourceInfo*>(resources.GetAt(i))));
   }
-  return {{{"folder", "Folder", folder}, {"resources", "Resources", std::move(rows)}}};
+  Object report{{"folder", "Folder", folder}, {"resources", "Resources", std::move(rows)}};
+  AddResourcesWithoutEffect(resources, passedOver, report);
+  return {report};
 }
 
 constexpr Option kOptions[] = {
@@ -52,8 +56,9 @@ constexpr Option kOptions[] = {
 const Command kResourcesCommand = {
     "resources",
     "List the HP resource files in a folder tree",
-    "A resource file stands at MEDIA/QUALITY/MEDIA_QUALITY.xml. Files that are no well-formed XML\n"
-    "are passed over; 'qdf sweep --dry-run' tells of them. Black and Colour are bits.",
+    "A resource file stands at MEDIA/QUALITY/MEDIA_QUALITY.xml. Files and folders that can't be\n"
+    "read and resources of which an update has no use are told with the reason. Black and Colour\n"
+    "are bits.",
     "qdf resources resources",
     kOptions,
     Resources,

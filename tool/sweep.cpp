@@ -6,6 +6,7 @@
 #include "qdf/hpimport/sweepverdict.h"
 #include "tool/command.h"
 #include "tool/files.h"
+#include "tool/load.h"
 #include "tool/printable.h"
 
 namespace {
@@ -42,16 +43,6 @@ std::string Tell(const FolderVerdict& verdict) {
   return "it is unsound";
 }
 
-// As compilers name a place.
-std::string PlaceOf(const FolderVerdict& verdict) {
-  std::string place(static_cast<const char*>(verdict.path));
-  const AXMLFault& fault = verdict.xmlFault;
-  if (verdict.fault == FolderFault::NotXML && fault.Line != 0) {
-    place += ':' + std::to_string(fault.Line) + ':' + std::to_string(fault.Column);
-  }
-  return place;
-}
-
 // Of a folder that wasn't examined there is none.
 Field VerdictField(const FolderVerdict& verdict) {
   if (!verdict.IsSound() && !verdict.IsUnsound()) {
@@ -64,10 +55,12 @@ Field VerdictField(const FolderVerdict& verdict) {
 List Rows(const Folders& folders) {
   List rows;
   for (const MediaFolder& folder : folders) {
-    rows.emplace_back(Object{{"media", "Media", static_cast<const char*>(folder.name)},
-                             VerdictField(folder.verdict),
-                             {"place", "File or folder", PlaceOf(folder.verdict)},
-                             {"reason", "Why", Tell(folder.verdict)}});
+    rows.emplace_back(
+        Object{{"media", "Media", static_cast<const char*>(folder.name)},
+               VerdictField(folder.verdict),
+               {"place", "File or folder",
+                PlaceOf(static_cast<const char*>(folder.verdict.path), folder.verdict.xmlFault)},
+               {"reason", "Why", Tell(folder.verdict)}});
   }
   return rows;
 }

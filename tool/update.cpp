@@ -9,6 +9,7 @@
 #include "tool/command.h"
 #include "tool/compare/changes.h"
 #include "tool/files.h"
+#include "tool/resourcefaults.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ constexpr FaultText kFaults[] = {
     {UpdateFault::TreeChanged, "a folder was moved while the resources were searched"},
     {UpdateFault::NoResource,
      "no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, stands in the folder"},
+    {UpdateFault::NoReadableResource, "all that may be resources is unreadable"},
     {UpdateFault::NoInk, "the previous document has no ink"},
     {UpdateFault::NoMedia,
      "no resource has a display name, or no id is left, so there would be no media"},
@@ -49,13 +51,15 @@ constexpr FaultText kFaults[] = {
      "no resource has a known ink layout, so there would be no colour mode"},
 };
 
-std::unique_ptr<APMQDF> Derive(APMQDF& previous, const std::string& folder) {
+UpdatedDocument Derive(APMQDF& previous, const std::string& folder) {
   UpdatedDocument updated = DeriveUpdatedDocument(&previous, AFilePath(folder.c_str()));
-  if (updated.document != nullptr) return std::move(updated.document);
+  if (updated.document != nullptr) return updated;
   for (const FaultText& each : kFaults) {
-    if (each.fault == updated.fault) {
-      throw Failure(kNoAnswer, folder + ": nothing can be derived: " + each.text);
-    }
+    if (each.fault != updated.fault) continue;
+    Object below;
+    AddResourcesWithoutEffect(APtrArray(), updated.passedOver,
+                              below);  // the line tells of the others
+    throw Failure(kNoAnswer, folder + ": nothing can be derived: " + each.text, below);
   }
   throw std::bad_alloc();
 }
@@ -108,9 +112,10 @@ Answer Update(const Arguments& arguments) {
   const std::string previousPath = PreviousPath(target);
   const Document previous = LoadPrevious(target, previousPath);
   RequireFolder(folder);
-  const std::unique_ptr<APMQDF> derived = Derive(*previous.content, folder);
-  const WrittenForm written = MakeWrittenForm(*derived, target);
+  const UpdatedDocument updated = Derive(*previous.content, folder);
+  const WrittenForm written = MakeWrittenForm(*updated.document, target);
   Object changes;
+  AddResourcesWithoutEffect(*updated.resources, updated.passedOver, changes);
   AddChanges(Comparison(*previous.content, *written.document), Shown::kOverview, changes);
 
   const std::optional<std::string> former = ReadIfThere(target);

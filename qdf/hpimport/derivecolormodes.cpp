@@ -117,6 +117,8 @@ int DeriveColorModeList(APtrArray& resources, APtrArray& colorModeList) {
   return colorModeList.GetSize() > 0 ? 1 : 0;
 }
 
+bool IsKnownInkLayout(const AString& inputFormat) { return FindLayout(inputFormat) != nullptr; }
+
 void CollectColorModeIDs(const HPResourceInfo& resource, const APtrArray& colorModeList,
                          ADWordArray& ids) {
   const InkLayout* layout = FindLayout(resource.InputFormat);

@@ -12,6 +12,9 @@
 // layout gives none. 0 without resources, else 1 exactly when the list holds a record.
 int DeriveColorModeList(APtrArray& resources, APtrArray& colorModeList);
 
+// Whether a resource with that InputFormat gives colour modes.
+bool IsKnownInkLayout(const AString& inputFormat);
+
 // Appends the ids of the modes that belong to the resource, in list order: those of its layout in
 // which "Cyan" has its colour depth, and the grey modes of its black depth.
 void CollectColorModeIDs(const HPResourceInfo& resource, const APtrArray& colorModeList,

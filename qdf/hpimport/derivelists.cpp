@@ -147,6 +147,8 @@ int DeriveMediaList(APtrArray& resources, APtrArray& mediaList, APtrArray& oldMe
   return HoldsAny(mediaList);
 }
 
+bool IsKnownQuality(const AString& folder) { return QualityOf(FieldPart(folder)) >= 0; }
+
 int DerivePrintModeList(APtrArray& resources, APtrArray& printModeList) {
   if (resources.GetSize() == 0) return 0;
   PrintModes printModes = CollectPrintModes(resources);

@@ -6,6 +6,7 @@
 // record. When memory runs out, bad_alloc passes through, and what was appended stays.
 
 #include "qdf/support/aarrays.h"
+#include "qdf/support/astring.h"
 
 // A media for each pair of a media folder and one of its display names; it is customisable when the
 // first resource of the pair says so. A media that the old list of MediaTypeInfo knows by both
@@ -18,6 +19,9 @@ int DeriveMediaList(APtrArray& resources, APtrArray& mediaList, APtrArray& oldMe
 // numbered from 1, best quality first: folders whose names begin with premium, superbest, best,
 // normal, fast, draft, and within one quality by their first appearance. Others are left out.
 int DerivePrintModeList(APtrArray& resources, APtrArray& printModeList);
+
+// Whether the name of a quality folder begins with one of those six.
+bool IsKnownQuality(const AString& folder);
 
 // A resolution for each display name with its two numbers, which must be equal exactly; numbered
 // from 1 by first appearance.

@@ -93,9 +93,12 @@ void LoadHPResourceFile(AFilePath& path, APtrArray& records, AString mediaName, 
   if (LoadResourceTree(tree, path)) AddParsed(tree, std::move(record), records);
 }
 
-void LoadHPResourceFile(const Descriptor& folder, APtrArray& records, const ResourceName& name) {
+AXMLFault LoadHPResourceFile(const Descriptor& folder, APtrArray& records,
+                             const ResourceName& name) {
   auto record = MakeRecord(name.media, name.quality, name.file);
   AXMLTree tree("RootElement");
   const int loaded = tree.loadFromFolder(folder, record->FileName);
-  if (HasLoaded(tree, loaded)) AddParsed(tree, std::move(record), records);
+  if (!HasLoaded(tree, loaded)) return tree.loadFault();
+  AddParsed(tree, std::move(record), records);
+  return {};
 }

@@ -17,8 +17,10 @@ bool LoadResourceTree(AXMLTree& tree, AFilePath& path);
 void LoadHPResourceFile(AFilePath& path, APtrArray& records, AString mediaName, AString qualityName,
                         AString fileName);
 
-// The same for a file in an open folder, however long its whole path is.
-void LoadHPResourceFile(const Descriptor& folder, APtrArray& records, const ResourceName& name);
+// The same for a file in an open folder, however long its whole path is. What was wrong when the
+// file can't be loaded, without a reason when it could.
+AXMLFault LoadHPResourceFile(const Descriptor& folder, APtrArray& records,
+                             const ResourceName& name);
 
 // Fills the record from a loaded file; its QualityName must be set, for "superbest" has a rule of
 // its own. Nothing is validated. 0 for a null tree, else 1.

@@ -4,8 +4,6 @@
 #include <utility>
 
 #include "qdf/core/documentmembers.h"
-#include "qdf/hpimport/discovery.h"
-#include "qdf/support/ownership.h"
 
 namespace {
 
@@ -31,24 +29,30 @@ UpdateFault FaultOf(APMQDF& document) {
   return UpdateFault::NoColorMode;
 }
 
-UpdatedDocument Derive(APMQDF& previous, const AFilePath& resourceFolder) {
-  OwnedItems<HPResourceInfo> resources;
-  if (!CollectHPResources(resourceFolder.GetFullPath(), resources)) {
-    return {nullptr, UpdateFault::TreeChanged};
+UpdateFault Derive(APMQDF& previous, const AFilePath& resourceFolder, UpdatedDocument& updated) {
+  auto& resources = *updated.resources;
+  if (!CollectHPResources(resourceFolder.GetFullPath(), resources, updated.passedOver)) {
+    return UpdateFault::TreeChanged;
   }
-  if (resources.GetSize() == 0) return {nullptr, UpdateFault::NoResource};
+  if (resources.GetSize() == 0) {
+    return updated.passedOver.empty() ? UpdateFault::NoResource : UpdateFault::NoReadableResource;
+  }
   auto document = std::make_unique<APMQDF>();
-  if (TakeOver(*document, previous) == 0) return {nullptr, UpdateFault::NoMemory};
+  if (TakeOver(*document, previous) == 0) return UpdateFault::NoMemory;
   DocumentMembers former(previous);
   if (document->LoadHPResourceInfo(resources, former.InkList, former.MediaList) == 0) {
-    return {nullptr, FaultOf(*document)};
+    return FaultOf(*document);
   }
-  return {std::move(document), UpdateFault::None};
+  updated.document = std::move(document);
+  return UpdateFault::None;
 }
 
 }  // namespace
 
 UpdatedDocument DeriveUpdatedDocument(APMQDF* previous, const AFilePath& resourceFolder) {
-  if (previous == nullptr) return {nullptr, UpdateFault::NoPreviousDocument};
-  return Derive(*previous, resourceFolder);
+  UpdatedDocument updated;
+  updated.resources = std::make_unique<OwnedItems<HPResourceInfo>>();
+  updated.fault = previous != nullptr ? Derive(*previous, resourceFolder, updated)
+                                      : UpdateFault::NoPreviousDocument;
+  return updated;
 }

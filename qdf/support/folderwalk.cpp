@@ -42,6 +42,7 @@ bool FolderWalk::Leave() {
 }
 
 bool FolderWalk::Next() {
+  unsearched_ = false;
   while (!levels_.empty()) {
     Level& level = levels_.back();
     path_.resize(level.pathLength);
@@ -51,9 +52,9 @@ bool FolderWalk::Next() {
     const DirectoryEntry& entry = level.entries[level.next++];
     if (!path_.empty() && path_.back() != '/') path_ += '/';
     path_ += entry.name;
-    if (entry.kind != EntryKind::Folder || !Enter(OpenSubfolder(here_, entry.name.c_str()))) {
-      return true;
-    }
+    if (entry.kind != EntryKind::Folder) return true;
+    unsearched_ = !Enter(OpenSubfolder(here_, entry.name.c_str()));
+    if (unsearched_) return true;
   }
   return false;
 }

@@ -27,6 +27,9 @@ class FolderWalk {
   // because somebody has moved the folder.
   bool HasLostItsWay() const { return lost_; }
 
+  // Whether the current entry is a folder that can't be searched.
+  bool IsUnsearched() const { return unsearched_; }
+
   // The current entry, its whole path, and the open folder that it lies in.
   const DirectoryEntry& Entry() const;
   const std::string& Path() const { return path_; }
@@ -48,4 +51,5 @@ class FolderWalk {
   std::string path_;
   std::vector<Level> levels_;
   bool lost_ = false;
+  bool unsearched_ = false;
 };

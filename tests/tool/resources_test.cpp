@@ -26,6 +26,10 @@ Resources (2)
   Media   Display names  Customizable  Quality  Print quality  Resolution    X      Y  Inks  Black  Colour  Algorithm  Profile  File
   Glossy  Gloss                     0  best     Best           600         600    600  KCMY      1       2          1  p.icc    Glossy_best.xml
   Matte   Matt, Mat                 1  draft    Best           600         300  600.5  KCMY      3       2          2  p.icc    Matte_draft.xml
+
+Resources without effect (1)
+  File or folder                  Why
+  tree/Bad/best/Bad_best.xml:1:1  this element is not closed
 )"}));
   const nlohmann::json report = RunJson({"resources", "tree"}, {folder.Path()});
   EXPECT_EQ(report["resources"][1]["displayNames"], nlohmann::json({"Matt", "Mat"}));

@@ -168,6 +168,43 @@ TEST_F(QdfUpdate, WritesElsewhereWhatFollowsThePreviousDocument) {
                      "file; it is looked up in OutputDrivers of the working folder, see -C\n"}));
 }
 
+TEST_F(QdfUpdate, TellsResourcesWithoutEffect) {
+  AddAll();
+  folder_.Write("res/Broken/best/Broken_best.xml", "<r>");
+  folder_.Write("res/Closed/best/Closed_best.xml", "<r/>");
+  WriteResource(folder_, "res", {.media = "Anon", .displayNames = {}, .printQuality = "best"});
+  WriteResource(folder_, "res", {.media = "Odd", .quality = "great", .printQuality = "great"});
+  WriteResource(folder_, "res", {.media = "Red", .printQuality = "best", .format = "RGB"});
+  // These two have what they lack from others.
+  WriteResource(folder_, "res",
+                {.media = "Silk", .quality = "fast", .displayNames = {}, .printQuality = "best"});
+  WriteResource(folder_, "res", {.media = "Film", .quality = "great", .printQuality = "best"});
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0755), 0);
+  ASSERT_EQ(chmod(folder_.Path("res/Closed").c_str(), 0700), 0);
+  const Outcome outcome = RunTool({"update", "small.qdf", "res", "--dry-run"},
+                                  {.folder = folder_.Path(), .asNobody = true});
+  EXPECT_NE(outcome.out.find(R"(
+Resources without effect (5)
+  File or folder                       Why
+  res/Broken/best/Broken_best.xml:1:1  this element is not closed
+  res/Closed                           it can't be searched
+  Anon/best/Anon_best.xml              it has no display name
+  Odd/great/Odd_great.xml              its quality folder's name begins with no known quality
+  Red/best/Red_best.xml                its ink layout, "RGB", isn't known
+)"),
+            std::string::npos)
+      << outcome;
+
+  folder_.Write("broken/M/best/M_best.xml", "<r>");
+  EXPECT_EQ(Run("small.qdf broken"),
+            (Outcome{1, "",
+                     R"(qdf: broken: nothing can be derived: all that may be resources is unreadable
+Resources without effect (1)
+  File or folder                Why
+  broken/M/best/M_best.xml:1:1  this element is not closed
+)"}));
+}
+
 TEST_F(QdfUpdate, SaysWhyNothingCanBeDerived) {
   folder_.Write("OutputDrivers/bad.qdf", "<Q>");
   fs::create_directory(folder_.Path("empty"));
