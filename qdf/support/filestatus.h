@@ -9,8 +9,9 @@ struct FileStatus {
   timespec accessed;
   timespec modified;
 
-  // Nobody may write the file. Some users could nevertheless, and must not.
-  bool IsReadOnly() const { return (mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0; }
+  // Its owner may not write it. Only the owner and root can lift that, and for the owner the rights
+  // of the others don't count.
+  bool IsReadOnly() const { return (mode & S_IWUSR) == 0; }
 };
 
 // False when no regular file stands at the path or it can't be examined.

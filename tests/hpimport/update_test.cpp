@@ -145,7 +145,7 @@ TEST_F(Update, FailsAsAWholeWhenDescriptorsRunOut) {
 }
 
 TEST_F(Update, LeavesAReadOnlyFileAsReadOnlyAndAsOldAsItWas) {
-  const FileStatus former{0440, {1000, 5}, {2000, 7}};
+  const FileStatus former{0464, {1000, 5}, {2000, 7}};
   const auto isAsBefore = [&] {
     FileStatus status{};
     ReadFileStatus(kDocument, status);
@@ -165,12 +165,12 @@ TEST_F(Update, LeavesAReadOnlyFileAsReadOnlyAndAsOldAsItWas) {
   UpdateFile(kDocument);
   EXPECT_TRUE(isAsBefore());
   EXPECT_NE(ReadFile(kDocument), former_);
-  // A file that somebody may write gets a new time.
-  ASSERT_TRUE(WriteFileStatus(kDocument, {0460, former.accessed, former.modified}));
+  // A file that its owner may write gets a new time.
+  ASSERT_TRUE(WriteFileStatus(kDocument, {0600, former.accessed, former.modified}));
   UpdateFile(kDocument);
   FileStatus status{};
   ReadFileStatus(kDocument, status);
-  EXPECT_EQ(status.mode, 0460U);
+  EXPECT_EQ(status.mode, 0600U);
   EXPECT_GT(status.modified.tv_sec, former.modified.tv_sec);
 }
 

@@ -117,7 +117,7 @@ TEST(Folders, ThatMoveWhileAWalkIsInsideEndIt) {
 TEST(FileStatus, ComesBackExactly) {
   const TempFolder folder;
   const std::string file = folder.Write("file", "x");
-  const FileStatus former{04440, {1000, 5}, {2000, 7}};
+  const FileStatus former{04464, {1000, 5}, {2000, 7}};
   ASSERT_TRUE(WriteFileStatus(file.c_str(), former));
   FileStatus status{};
   ASSERT_TRUE(ReadFileStatus(file.c_str(), status));
@@ -126,7 +126,7 @@ TEST(FileStatus, ComesBackExactly) {
   EXPECT_EQ(status.modified.tv_sec, 2000);
   EXPECT_EQ(status.modified.tv_nsec, 7);
   EXPECT_EQ(status.accessed.tv_nsec, 5);
-  status.mode = 0464;  // one who may write is enough
+  status.mode = 0600;
   EXPECT_FALSE(status.IsReadOnly());
   EXPECT_FALSE(ReadFileStatus(folder.Path().c_str(), status));
   EXPECT_FALSE(ReadFileStatus(folder.Path("missing").c_str(), status));
