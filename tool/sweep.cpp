@@ -1,9 +1,10 @@
 // qdf sweep: which media folders of a resource tree are unsound, and away with them.
 
-#include <sys/stat.h>
+#include <cstring>
 
 #include "qdf/hpimport/removefolder.h"
 #include "qdf/hpimport/sweepverdict.h"
+#include "qdf/support/lackofmeans.h"
 #include "tool/command.h"
 #include "tool/files.h"
 #include "tool/load.h"
@@ -65,9 +66,21 @@ List Rows(const Folders& folders) {
   return rows;
 }
 
-bool IsThere(const char* path) {
-  struct stat status {};
-  return lstat(path, &status) == 0;
+Object LeftRow(const MediaFolder& folder, const std::string& entry, const char* reason) {
+  return {{"path", "Folder", static_cast<const char*>(folder.path)},
+          {"entry", "First that stayed", entry},
+          {"reason", "Why", reason}};
+}
+
+// A row about what is left, none when the folder is gone.
+std::optional<Object> Remove(const MediaFolder& folder) {
+  try {
+    const Remainder left = RemoveFolderTreeAndTell(folder.path);
+    if (left.path.empty()) return std::nullopt;
+    return LeftRow(folder, left.path, std::strerror(left.error));
+  } catch (const LackOfMeans& lack) {
+    return LeftRow(folder, "", lack.what());
+  }
 }
 
 // Deletes what was found to be unsound, and no more. The code is the answer's when all goes well.
@@ -75,9 +88,9 @@ Answer Delete(const Folders& unsound, ExitCode code) {
   int deleted = 0;
   List left;
   for (const MediaFolder& folder : unsound) {
-    RemoveFolderTree(folder.path);
-    if (IsThere(folder.path)) {
-      left.emplace_back(Object{{"path", "Folder", static_cast<const char*>(folder.path)}});
+    std::optional<Object> remainder = Remove(folder);
+    if (remainder) {
+      left.emplace_back(std::move(*remainder));
     } else {
       ++deleted;
     }

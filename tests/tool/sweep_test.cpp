@@ -129,7 +129,9 @@ TEST_F(QdfSweep, TellsWhatCannotBeDeleted) {
   EXPECT_EQ(swept.code, 1);
   EXPECT_TRUE(
       swept.out.ends_with("\nDeleted media folders:  1\n\n"
-                          "Not or not wholly deleted (1)\n  Folder\n  tree/Old\n"))
+                          "Not or not wholly deleted (1)\n"
+                          "  Folder    First that stayed           Why\n"
+                          "  tree/Old  tree/Old/best/Old_best.xml  Permission denied\n"))
       << swept;
   EXPECT_TRUE(Has("Old/best/Old_best.xml") && !Has("Loose"));
   EXPECT_EQ(Run("tree --yes").code, 0);
