@@ -4,11 +4,14 @@
 
 #include <unistd.h>
 
+#include <map>
+
 #include "qdf/hpimport/updateddocument.h"
 #include "qdf/support/outputdrivers.h"
 #include "tool/command.h"
 #include "tool/compare/changes.h"
 #include "tool/files.h"
+#include "tool/reportline.h"
 #include "tool/resourcefaults.h"
 
 namespace {
@@ -29,6 +32,35 @@ Document LoadPrevious(const std::string& target, const std::string& path) {
         kNoAnswer,
         target + ": " + line + "; it is looked up in OutputDrivers of the working folder, see -C");
   }
+}
+
+// Media of a derived document that a loaded one doesn't have: there one id has one media.
+void AddMediaFallenOut(APMQDF& derived, APMQDF& loaded, Object& report) {
+  const DocumentList& media = kDocumentLists[kMedia];
+  std::map<int, Object> held;
+  for (const Value& row : media.rows(loaded)) {
+    const Object& object = std::get<Object>(row.data);
+    held.emplace(IDOf(object), object);
+  }
+  List rows;
+  for (const Value& row : media.rows(derived)) {
+    const Object& object = std::get<Object>(row.data);
+    const auto found = held.find(IDOf(object));
+    const bool isHeld = found != held.end();
+    const auto isSame = [&](const char* key) {
+      return *object.Find(key) == *found->second.Find(key);
+    };
+    if (isHeld && isSame("displayName") && isSame("internalName")) continue;
+    const auto text = [](const Object& of, const char* key) { return LineText(*of.Find(key)); };
+    rows.emplace_back(Object{{"id", "ID", IDOf(object)},
+                             {"displayName", "Display name", *object.Find("displayName")},
+                             {"internalName", "Internal name", *object.Find("internalName")},
+                             {"reason", "Why",
+                              isHeld ? "the id is held by " + text(found->second, "displayName") +
+                                           " (" + text(found->second, "internalName") + ')'
+                                     : "a document can't hold it"}});
+  }
+  report.Add({"fallenOut", rows.empty() ? nullptr : "Media that fell out", std::move(rows)});
 }
 
 struct FaultText {
@@ -116,6 +148,7 @@ Answer Update(const Arguments& arguments) {
   const WrittenForm written = MakeWrittenForm(*updated.document, target);
   Object changes;
   AddResourcesWithoutEffect(*updated.resources, updated.passedOver, changes);
+  AddMediaFallenOut(*updated.document, *written.document, changes);
   AddChanges(Comparison(*previous.content, *written.document), Shown::kOverview, changes);
 
   const std::optional<std::string> former = ReadIfThere(target);

@@ -205,6 +205,17 @@ Resources without effect (1)
 )"}));
 }
 
+// A customisable media may have kept the id that the next plain one would get.
+TEST_F(QdfUpdate, TellsMediaThatFallOutWithTheHolderOfTheirId) {
+  Add("pl", "best");
+  WriteResource(folder_, "res", {.media = "gl", .displayNames = {"Glossy"}, .customizable = 1});
+  Add("New", "best");
+  const nlohmann::json report =
+      RunJson({"update", "small.qdf", "res", "--dry-run"}, {folder_.Path()});
+  EXPECT_EQ(report["fallenOut"], nlohmann::json::parse(R"json([{"id": 11, "displayName": "New",
+                "internalName": "New", "reason": "the id is held by Glossy (gl)"}])json"));
+}
+
 TEST_F(QdfUpdate, SaysWhyNothingCanBeDerived) {
   folder_.Write("OutputDrivers/bad.qdf", "<Q>");
   fs::create_directory(folder_.Path("empty"));
