@@ -2,6 +2,7 @@
 
 #include "qdf/hpimport/update.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <map>
@@ -103,10 +104,22 @@ class Backup {
 
   const std::string& Path() const { return path_; }
 
-  void Save(const std::string& bytes) {
-    if (Exists(path_)) former_ = ReadWhole(path_);
+  // The content of the document, whose rights it gets. Throws a Failure when something else than a
+  // file stands in its place, so that nothing is written through a link.
+  void Save(const std::string& document, const std::string& bytes) {
+    struct stat status {};
+    if (lstat(path_.c_str(), &status) == 0) {
+      if (!S_ISREG(status.st_mode)) {
+        throw Failure(kNoAnswer, path_ + ": it is no regular file; see --no-backup");
+      }
+      former_ = ReadWhole(path_);
+    }
+    // From its first byte on nobody reads it who may not read the document.
+    const mode_t mask = umask(S_IRWXG | S_IRWXO);
     SaveWhole(path_, bytes);
+    umask(mask);
     saved_ = true;
+    if (stat(document.c_str(), &status) == 0) chmod(path_.c_str(), status.st_mode & 07777U);
   }
 
   // For when the document stays as it was.
@@ -156,7 +169,7 @@ Answer Update(const Arguments& arguments) {
   const bool writes = !isSame && !arguments.Has("--dry-run");
   Backup backup(target);
   const bool keeps = writes && former && !arguments.Has("--no-backup");
-  if (keeps) backup.Save(*former);
+  if (keeps) backup.Save(target, *former);
   if (writes) Write(target, folder, written.bytes, backup);
 
   const char* state = isSame ? "up to date" : writes ? "written" : "would be written";

@@ -153,6 +153,23 @@ TEST_F(QdfUpdate, TellsTheSameWithoutWriting) {
   EXPECT_EQ(File("OutputDrivers/small.qdf.bak"), kSmallDocument);
 }
 
+TEST_F(QdfUpdate, BacksUpWithTheDocumentsRightsAndThroughNoLink) {
+  AddAll();
+  folder_.Write("foreign", "kept");
+  ASSERT_EQ(chmod(folder_.Path(kPath).c_str(), 0600), 0);
+  const std::string backup = folder_.Path("OutputDrivers/small.qdf.bak");
+  fs::create_symlink("../foreign", backup);
+  EXPECT_EQ(Run("small.qdf res"),
+            (Outcome{1, "",
+                     "qdf: OutputDrivers/small.qdf.bak: it is no regular file; see "
+                     "--no-backup\n"}));
+  EXPECT_EQ(File(kPath), kSmallDocument);
+  EXPECT_EQ(File("foreign"), "kept");
+  fs::remove(backup);
+  EXPECT_EQ(Run("small.qdf res").code, 0);
+  EXPECT_EQ(fs::status(backup).permissions(), fs::perms{0600});
+}
+
 TEST_F(QdfUpdate, WritesElsewhereWhatFollowsThePreviousDocument) {
   AddAll();
   folder_.Write("new/small.qdf", "no document");
