@@ -2,13 +2,16 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 
 #include "qdf/support/filebytes.h"
+#include "qdf/support/lackofmeans.h"
 #include "qdf/support/savebytes.h"
 #include "tool/failure.h"
 
@@ -33,9 +36,23 @@ const char* WhyNotMade(const std::string& path) {
   return kNoRoom;
 }
 
+// Why a document has no written form, of which so many bytes were made.
+std::string WhyNotFormed(const char* unreadable, std::size_t size) {
+  if (unreadable != nullptr) return unreadable;
+  if (size > 0) return "what would be written can't be loaded";
+  rlimit limit{};
+  const bool isLimited = getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
+  return isLimited ? kNoRoom : "out of memory";
+}
+
 class MemoryFile {
  public:
-  MemoryFile() : number_(memfd_create("document", MFD_CLOEXEC)) {}
+  // Throws what the system was lacking for one.
+  MemoryFile() : number_(memfd_create("document", MFD_CLOEXEC)) {
+    if (number_ >= 0) return;
+    ThrowIfWithoutMeans();
+    throw Failure(kNoAnswer, std::string("no file in memory: ") + std::strerror(errno));
+  }
   ~MemoryFile() { close(number_); }
   MemoryFile(const MemoryFile&) = delete;
   MemoryFile& operator=(const MemoryFile&) = delete;
@@ -61,6 +78,7 @@ bool IsSameFile(const std::string& path, const std::string& other) {
 }
 
 void RequireFolder(const std::string& path) {
+  if (path.empty()) throw Failure(kWrongUsage, "the name of the folder is empty");
   struct stat status {};
   const char* fault = nullptr;
   if (stat(path.c_str(), &status) != 0) {
@@ -71,6 +89,14 @@ void RequireFolder(const std::string& path) {
     fault = "no permission to search it";
   }
   if (fault != nullptr) throw Failure(kNoAnswer, path + ": " + fault);
+}
+
+std::string ResolveFolder(const std::string& path) {
+  RequireFolder(path);
+  const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(path.c_str(), nullptr),
+                                                             &std::free);
+  if (resolved == nullptr) throw Failure(kNoAnswer, path + ": " + std::strerror(errno));
+  return resolved.get();
 }
 
 std::string ReadWhole(const std::string& path) {
@@ -121,7 +147,7 @@ WrittenForm MakeWrittenForm(APMQDF& document, const std::string& path) {
   PMGetQDFInterface(memory, &loaded);
   WrittenForm written{{}, std::unique_ptr<APMQDF>(loaded)};
   if (fault != nullptr || loaded == nullptr) {
-    throw Failure(kNoAnswer, path + ": it can't be saved: " + kNoRoom);
+    throw Failure(kNoAnswer, path + ": it can't be saved: " + WhyNotFormed(fault, bytes.size));
   }
   written.bytes = bytes.Text();
   return written;

@@ -16,6 +16,9 @@ bool IsSameFile(const std::string& path, const std::string& other);
 // Throws a Failure unless it is a folder that can be searched.
 void RequireFolder(const std::string& path);
 
+// The same, and answers the path without links and dots, in which all names of folders stand.
+std::string ResolveFolder(const std::string& path);
+
 // Throws a Failure that names the file and says why it can't be read.
 std::string ReadWhole(const std::string& path);
 

@@ -74,6 +74,14 @@ TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
   }
 }
 
+TEST_F(QdfWrite, TakesAnEmptyNameForWrongUsage) {
+  EXPECT_EQ(Run({"write", "small.qdf", ""}),
+            (Outcome{2, "", "qdf: the name of the file to write is empty\n"}));
+  for (const char* command : {"resources", "sweep"}) {
+    EXPECT_EQ(Run({command, ""}), (Outcome{2, "", "qdf: the name of the folder is empty\n"}));
+  }
+}
+
 TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
   const std::string old = folder_.Write("old.qdf", "former content");
   const std::string folder = folder_.Path();
