@@ -30,14 +30,20 @@ Object MakeRow(const HPResourceInfo& resource) {
           {"file", "File", text(resource.FileName)}};
 }
 
+// A path below the resolved folder, as it is below the folder that was given.
+AString AsGiven(const AString& path, const std::string& resolved, const std::string& given) {
+  return (given + (static_cast<const char*>(path) + resolved.size())).c_str();
+}
+
 Answer Resources(const Arguments& arguments) {
   const std::string& folder = arguments.Get("DIR");
-  RequireFolder(folder);
+  const std::string resolved = ResolveFolder(folder);
   OwnedItems<HPResourceInfo> resources;
   std::vector<PassedOver> passedOver;
-  if (!CollectHPResources(folder.c_str(), resources, passedOver)) {
+  if (!CollectHPResources(resolved.c_str(), resources, passedOver)) {
     throw Failure(kNoAnswer, folder + ": a folder in it was moved while it was searched");
   }
+  for (PassedOver& passed : passedOver) passed.path = AsGiven(passed.path, resolved, folder);
   List rows;
   for (int i = 0; i < resources.GetSize(); ++i) {
     rows.emplace_back(MakeRow(*static_cast<const HPResourceInfo*>(resources.GetAt(i))));

@@ -32,9 +32,13 @@ extern "C" {
 
 // Appends an HPResourceInfo for each resource file in and below the folder, which the caller frees.
 // The order is the same on every file system: entries of a folder by their upper-cased names, a
-// subfolder with all that it holds at its place. Links are neither followed nor read; a folder or
-// file that can't be read is passed over. When memory or descriptors run out, or somebody moves a
-// folder of the tree meanwhile, the records until then are all.
+// subfolder with all that it holds at its place. The folder itself may be a link; below it links
+// are neither followed nor read. A folder or file that can't be read is passed over. When memory or
+// descriptors run out, or somebody moves a folder of the tree meanwhile, the records until then are
+// all.
+//
+// Media and quality are names in the text of the path: of a folder inside a media folder give a
+// path in which they stand, since none are found in "." there.
 APMQDF_EXPORT void PMGetHPRecursive(AString folder, APtrArray& records);
 
 }  // extern "C"

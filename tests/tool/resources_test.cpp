@@ -36,6 +36,16 @@ Resources without effect (1)
   EXPECT_EQ(report["resources"][1]["inputVRes"], 600.5);
 }
 
+TEST(QdfResources, KnowsTheNamesOfFoldersThatThePathLeavesOut) {
+  const TempFolder folder;
+  WriteResource(folder, "tree", {});
+  folder.Write("tree/Glossy/Glossy/Glossy_Glossy.xml", "<r>");
+  const nlohmann::json report = RunJson({"resources", "."}, {folder.Path("tree/Glossy")});
+  EXPECT_EQ(report["resources"][0]["media"], "Glossy");
+  EXPECT_EQ(report["withoutEffect"][0]["place"], "./Glossy/Glossy_Glossy.xml:1:1");
+  EXPECT_EQ(RunJson({"resources", "best"}, {folder.Path("tree/Glossy")})["resources"].size(), 1U);
+}
+
 TEST(QdfResources, NeedsAFolder) {
   const TempFolder folder;
   folder.Write("file", "");
