@@ -21,9 +21,10 @@ TEST_F(QdfWrite, TellsEachKindOfLossOnce) {
   EXPECT_EQ(Run({"write", "small.qdf", "new.qdf"}), (Outcome{0, R"(Document:  small.qdf
 Written:   new.qdf
 
-No longer held (10)
+No longer held (11)
   What                     In               First of them  Before        After
-  Combinations: gone       2 combinations   Matte Black    -             -
+  Combinations: gone       1 combination    Matte Black    -             -
+  Combinations: gone       1 dead end       Matte Black    -             -
   Default ink              1 document                      Photo Black   -
   Dithers                  24 combinations  all of them    Fine, Coarse  FINE, COARSE
   Default dither           24 combinations  all of them    Smooth        -
@@ -42,7 +43,7 @@ TEST_F(QdfWrite, TellsProgramsWholeLists) {
   const nlohmann::json report = RunJson({"write", "small.qdf", "new.qdf"}, {folder_.Path()});
   EXPECT_EQ(report["document"], "small.qdf");
   EXPECT_EQ(report["written"], "new.qdf");
-  EXPECT_EQ(report["losses"][2],
+  EXPECT_EQ(report["losses"][3],
             nlohmann::json::parse(R"({"what": "Dithers", "count": 24, "unit": "combinations",
                 "first": "all of them", "before": ["Fine", "Coarse"], "after": ["FINE", "COARSE"]})"));
 }

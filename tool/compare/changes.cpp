@@ -185,28 +185,40 @@ struct PathLabels {
   const char* counts;
   const char* lost;
   const char* won;
+  const char* deadEndsGone;
+  const char* deadEndsNew;
   const char* settings;
   const char* countsKey;
   const char* lostKey;
   const char* wonKey;
+  const char* deadEndsGoneKey;
+  const char* deadEndsNewKey;
   const char* settingsKey;
 };
 
 constexpr PathLabels kJobLabels = {"Combinations",
                                    "Groups of combinations lost",
                                    "Groups of combinations won",
+                                   "Dead ends gone",
+                                   "Dead ends new",
                                    "Settings of combinations",
                                    "combinations",
                                    "combinationsLost",
                                    "combinationsWon",
+                                   "deadEndsGone",
+                                   "deadEndsNew",
                                    "settings"};
 constexpr PathLabels kMediaSourceLabels = {"Media source combinations",
                                            "Groups of media source combinations lost",
                                            "Groups of media source combinations won",
+                                           "Dead ends of media sources gone",
+                                           "Dead ends of media sources new",
                                            "Settings of media sources",
                                            "mediaSourceCombinations",
                                            "mediaSourceCombinationsLost",
                                            "mediaSourceCombinationsWon",
+                                           "mediaSourceDeadEndsGone",
+                                           "mediaSourceDeadEndsNew",
                                            "mediaSourceSettings"};
 
 Object SettingRow(const TraitChanges& setting, const TraitChange& change,
@@ -282,6 +294,10 @@ Difference AddPaths(const Comparison& comparison, const PathComparison& paths, S
                      {"won", "Won", CountOf(changes.won)}}});
   AddRows(labels.lostKey, labels.lost, PathRows(changes.lost, true, comparison, kind), report);
   AddRows(labels.wonKey, labels.won, PathRows(changes.won, false, comparison, kind), report);
+  AddRows(labels.deadEndsGoneKey, labels.deadEndsGone,
+          PathRows(changes.deadEndsGone, true, comparison, kind), report);
+  AddRows(labels.deadEndsNewKey, labels.deadEndsNew,
+          PathRows(changes.deadEndsNew, false, comparison, kind), report);
   AddSettings(labels, changes.changed, comparison, kind, report);
   return changes.Any() ? Difference::kMeaning : Difference::kNone;
 }

@@ -64,7 +64,7 @@ class Folder {
   Folded Fold(const PathPair& path, std::size_t level) {
     const int label = question_.label(path, level);
     if (label == FoldQuestion::kNothing) return {};
-    if (label != FoldQuestion::kLookBelow) return {true, label, {question_.count(path)}};
+    if (label != FoldQuestion::kLookBelow) return {true, label, {question_.count(path, level)}};
     std::vector<int> all;
     std::map<int, Part> parts;  // by shape
     for (const PathPair& child : path.children) {

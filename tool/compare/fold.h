@@ -37,7 +37,8 @@ struct FoldQuestion {
   // What is to be told of a path of so many options: kNothing, kLookBelow or a positive number.
   std::function<int(const PathPair& path, std::size_t level)> label;
   // As how many the path counts.
-  std::function<int(const PathPair& path)> count = [](const PathPair&) { return 1; };
+  std::function<int(const PathPair& path, std::size_t level)> count = [](const PathPair&,
+                                                                         std::size_t) { return 1; };
 };
 
 std::vector<FoldedPaths> FoldPaths(const PathPair& root, const FoldQuestion& question);

@@ -22,6 +22,7 @@ struct Unit {
 constexpr Unit kDocument = {"document", "document", "documents"};
 constexpr Unit kEntries = {"entries", "entry", "entries"};
 constexpr Unit kColorants = {"colorants", "colorant", "colorants"};
+constexpr Unit kDeadEnds = {"deadEnds", "dead end", "dead ends"};
 constexpr Unit kCombinations = {"combinations", "combination", "combinations"};
 
 class Losses {
@@ -88,13 +89,15 @@ void AddPaths(const Comparison& comparison, const PathComparison& paths, Losses&
   }
   const PathChanges changes = FindPathChanges(paths);
   const auto tell = [&](const FoldedPaths& line) { return Tell(line, comparison, kind); };
-  const auto add = [&](const std::vector<FoldedPaths>& lines, const char* what) {
+  const auto add = [&](const std::vector<FoldedPaths>& lines, const Unit& unit, const char* what) {
     for (const FoldedPaths& line : lines) {
-      losses.Add(kind.label + std::string(what), kCombinations, line.count, {tell(line), {}, {}});
+      losses.Add(kind.label + std::string(what), unit, line.count, {tell(line), {}, {}});
     }
   };
-  add(changes.lost, ": gone");
-  add(changes.won, ": new");
+  add(changes.lost, kCombinations, ": gone");
+  add(changes.won, kCombinations, ": new");
+  add(changes.deadEndsGone, kDeadEnds, ": gone");
+  add(changes.deadEndsNew, kDeadEnds, ": new");
   for (const TraitChanges& setting : changes.changed) {
     const bool isRoot = setting.level == 0;
     for (const TraitChange& change : setting.changes) {

@@ -12,33 +12,52 @@ using Side = const PathNode* PathPair::*;
 
 bool Ends(const PathNode* path) { return path->children.empty(); }
 
-int CountWhole(const PathPair& path, Side side) {
-  int count = 0;
-  for (const PathPair& child : path.children) {
-    if (child.*side != nullptr) count += CountWhole(child, side);
-  }
-  return Ends(path.*side) && path.entry >= 0 ? 1 : count;
-}
+// Paths that lead to the end, or those that stop on the way there.
+class PathEnds {
+ public:
+  // Media sources needn't have margins.
+  PathEnds(const PathKind& kind, bool areWhole)
+      : shortest_(kind.levels.size() - (kind.isJob ? 0 : 1)), areWhole_(areWhole) {}
 
-int CountKept(const PathPair& path) {
-  if (!path.IsInBoth()) return 0;
-  if (Ends(path.before) && Ends(path.after)) return path.entry >= 0 ? 1 : 0;
-  int count = 0;
-  for (const PathPair& child : path.children) count += CountKept(child);
-  return count;
-}
+  // How many of them begin with the path, which has so many options.
+  int Count(const PathPair& path, Side side, std::size_t level) const {
+    if (path.*side == nullptr) return 0;
+    if (Ends(path.*side)) return level > 0 && (level >= shortest_) == areWhole_ ? 1 : 0;
+    return SumBelow(path, [&](const PathPair& child) { return Count(child, side, level + 1); });
+  }
+
+  int CountKept(const PathPair& path, std::size_t level) const {
+    if (!path.IsInBoth()) return 0;
+    if (Ends(path.before) != Ends(path.after)) return 0;
+    if (Ends(path.before)) return Count(path, &PathPair::before, level);
+    return SumBelow(path, [&](const PathPair& child) { return CountKept(child, level + 1); });
+  }
+
+ private:
+  template <class CountOne>
+  static int SumBelow(const PathPair& path, CountOne count) {
+    return std::accumulate(path.children.begin(), path.children.end(), 0,
+                           [&](int sum, const PathPair& child) { return sum + count(child); });
+  }
+
+  std::size_t shortest_;  // that leads to the end
+  bool areWhole_;
+};
 
 // The paths of one document that the other one doesn't have.
-std::vector<FoldedPaths> Missing(const PathPair& root, Side side, Side other) {
+std::vector<FoldedPaths> Missing(const PathPair& root, Side side, Side other,
+                                 const PathEnds& ends) {
   FoldQuestion question;
   question.exists = [=](const PathPair& path) { return path.*side != nullptr; };
-  question.label = [=](const PathPair& path, std::size_t) {
+  question.label = [&](const PathPair& path, std::size_t level) {
     constexpr int kMissing = 1;
-    const bool isMissing = path.*other == nullptr || Ends(path.*side) != Ends(path.*other);
-    if (isMissing) return CountWhole(path, side) > 0 ? kMissing : FoldQuestion::kNothing;
+    if (ends.Count(path, side, level) == 0) return FoldQuestion::kNothing;
+    if (path.*other == nullptr || Ends(path.*side) != Ends(path.*other)) return kMissing;
     return Ends(path.*side) ? FoldQuestion::kNothing : FoldQuestion::kLookBelow;
   };
-  question.count = [=](const PathPair& path) { return CountWhole(path, side); };
+  question.count = [&](const PathPair& path, std::size_t level) {
+    return ends.Count(path, side, level);
+  };
   return FoldPaths(root, question);
 }
 
@@ -111,11 +130,15 @@ TraitChanges FindTraitChanges(const PathPair& root, const Trait& trait, std::siz
 PathChanges FindPathChanges(const PathComparison& comparison) {
   const PathPair& root = *comparison.root;
   PathChanges changes;
-  changes.before = CountWhole(root, &PathPair::before);
-  changes.after = CountWhole(root, &PathPair::after);
-  changes.kept = CountKept(root);
-  changes.lost = Missing(root, &PathPair::before, &PathPair::after);
-  changes.won = Missing(root, &PathPair::after, &PathPair::before);
+  const PathEnds whole(*comparison.kind, true);
+  const PathEnds dead(*comparison.kind, false);
+  changes.before = whole.Count(root, &PathPair::before, 0);
+  changes.after = whole.Count(root, &PathPair::after, 0);
+  changes.kept = whole.CountKept(root, 0);
+  changes.lost = Missing(root, &PathPair::before, &PathPair::after, whole);
+  changes.won = Missing(root, &PathPair::after, &PathPair::before, whole);
+  changes.deadEndsGone = Missing(root, &PathPair::before, &PathPair::after, dead);
+  changes.deadEndsNew = Missing(root, &PathPair::after, &PathPair::before, dead);
   const auto& traits = comparison.kind->traits;
   for (std::size_t level = 0; level < traits.size(); ++level) {
     for (std::size_t place = 0; place < traits[level].size(); ++place) {

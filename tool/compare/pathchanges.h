@@ -23,14 +23,20 @@ struct TraitChanges {
 };
 
 struct PathChanges {
-  int before = 0;  // how many whole paths the documents have
+  int before = 0;  // how many paths to the end the documents have
   int after = 0;
   int kept = 0;
   std::vector<FoldedPaths> lost;
   std::vector<FoldedPaths> won;
+  // Paths that stop on the way: no query gets through them.
+  std::vector<FoldedPaths> deadEndsGone;
+  std::vector<FoldedPaths> deadEndsNew;
   std::vector<TraitChanges> changed;  // settings with a change
 
-  bool Any() const { return !lost.empty() || !won.empty() || !changed.empty(); }
+  bool Any() const {
+    return !lost.empty() || !won.empty() || !deadEndsGone.empty() || !deadEndsNew.empty() ||
+           !changed.empty();
+  }
 };
 
 // Of a comparison that has a root.
