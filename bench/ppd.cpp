@@ -85,7 +85,7 @@ class PPDText {
   }
 
   void Combination(const CQDFNode& node, const std::string& path, PPDContent content) {
-    for (const std::uint32_t profile : ChildAt(node, 0)->IDs) {
+    for (const std::uint32_t profile : ChildAt(node, kProfileLeaf)->IDs) {
       text_ << "*cupsICCProfile " << path << "/: \""
             << Harmless(View(members_.ICCProfileList.ElementAt(static_cast<int>(profile))))
             << "\"\n";
@@ -95,7 +95,7 @@ class PPDText {
       text_ << "*apSetting " << path << "/: \""
             << Harmless(View(members_.OEMInfoList.ElementAt(node.Default))) << "\"\n";
     }
-    for (const std::uint32_t index : ChildAt(node, 2)->IDs) {
+    for (const std::uint32_t index : ChildAt(node, kRipResolutionLeaf)->IDs) {
       const auto& dither = *static_cast<DitherResolutionInfo*>(
           members_.DitherResolutionList.GetAt(static_cast<int>(index)));
       text_ << "*apDither " << path << '/' << Harmless(FieldText(dither.Name)) << ": \""

@@ -3,10 +3,9 @@
 #include "qdf/support/text.h"
 
 RipResolutions RipResolutionsOf(const CQDFNode* colorMode, const APtrArray& list) {
-  constexpr int kLeaf = 2;
   RipResolutions result;
-  if (colorMode == nullptr || colorMode->Children.GetSize() <= kLeaf) return result;
-  for (const std::uint32_t id : ChildAt(*colorMode, kLeaf)->IDs) {
+  if (colorMode == nullptr || colorMode->Children.GetSize() <= kRipResolutionLeaf) return result;
+  for (const std::uint32_t id : ChildAt(*colorMode, kRipResolutionLeaf)->IDs) {
     const int index = static_cast<int>(id);
     if (index < 0 || index >= list.GetSize()) continue;
     const auto* record = static_cast<const DitherResolutionInfo*>(list.GetAt(index));

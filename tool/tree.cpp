@@ -176,8 +176,10 @@ void AddColorModeLeaves(const DocumentMembers& members, const CQDFNode& node, Ob
   };
   object.Add(
       {"printerSpecificText", "Printer specific text", TextAt(members.OEMInfoList, node.Default)});
-  AddNames(leaf(0), members.ICCProfileList, kProfiles, object, [](const char*, Object&) {});
-  AddDithers(members, leaf(1), RipResolutionsOf(&node, members.DitherResolutionList), object);
+  AddNames(leaf(kProfileLeaf), members.ICCProfileList, kProfiles, object,
+           [](const char*, Object&) {});
+  AddDithers(members, leaf(kDitherLeaf), RipResolutionsOf(&node, members.DitherResolutionList),
+             object);
 }
 
 TreeReport ControlTree(const DocumentMembers& members, int depth) {

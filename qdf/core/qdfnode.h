@@ -14,6 +14,9 @@
 #include "qdf/support/aarrays.h"
 #include "qdf/support/export.h"
 
+// The places of the leaves below a colour mode node.
+enum ColorModeLeaf { kProfileLeaf = 0, kDitherLeaf = 1, kRipResolutionLeaf = 2 };
+
 class APMQDF_EXPORT CQDFNode {
  public:
   CQDFNode() = default;

@@ -10,14 +10,11 @@
 
 namespace {
 
-// The places of the leaves below a colour mode node.
-enum Leaf { kProfileLeaf = 0, kDitherLeaf = 1, kRipResolutionLeaf = 2 };
-
 constexpr const char* kAll = "ALL";
 
 // Null where the node doesn't have that many leaves, as in a tree that was derived from HP
 // resources.
-const CQDFNode* FindLeaf(const CQDFNode& colorMode, Leaf leaf) {
+const CQDFNode* FindLeaf(const CQDFNode& colorMode, ColorModeLeaf leaf) {
   return colorMode.Children.GetSize() > leaf ? ChildAt(colorMode, leaf) : nullptr;
 }
 

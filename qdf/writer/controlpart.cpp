@@ -8,9 +8,6 @@
 
 namespace {
 
-// The places of the leaves below a colour mode node.
-enum Leaf { kProfileLeaf = 0, kDitherLeaf = 1 };
-
 // Joins ids with commas.
 AString IDListText(const ADWordArray& ids) {
   std::string text;
@@ -126,7 +123,7 @@ void APMQDF::WriteColorModeControlPart(AXMLTree& tree, AXMLTreeNode& element, CQ
   // A leaf that isn't there counts as one without names.
   CQDFNode none;
   none.Default = -1;
-  const auto leafAt = [&](Leaf place) -> CQDFNode& {
+  const auto leafAt = [&](ColorModeLeaf place) -> CQDFNode& {
     CQDFNode* leaf = ChildAt(*node, place);
     return leaf != nullptr ? *leaf : none;
   };

@@ -169,11 +169,11 @@ class PathReader {
     };
     return {isOffered ? "yes" : "no",
             TextAt(members_.OEMInfoList, node.Default),
-            TextsOf(leaf(0), members_.ICCProfileList),
-            preset(0, members_.ICCProfileList),
-            TextsOf(leaf(1), members_.DitherNameList),
-            preset(1, members_.DitherNameList),
-            RipResolutionsOf(leaf(2), members_.DitherResolutionList)};
+            TextsOf(leaf(kProfileLeaf), members_.ICCProfileList),
+            preset(kProfileLeaf, members_.ICCProfileList),
+            TextsOf(leaf(kDitherLeaf), members_.DitherNameList),
+            preset(kDitherLeaf, members_.DitherNameList),
+            RipResolutionsOf(leaf(kRipResolutionLeaf), members_.DitherResolutionList)};
   }
 
   DocumentMembers members_;
