@@ -125,6 +125,7 @@ TEST_F(Update, FailsAsAWholeWhenDescriptorsRunOut) {
   const auto previous = LoadFile(kDocument);
   // Once with all that there are: a sanitizer needs some to learn the types that it sees.
   ASSERT_NE(DeriveUpdatedDocument(previous.get(), AFilePath("tree")).document, nullptr);
+  ASSERT_STREQ(LackOfMeans("known").what(), "known");
   const auto faultWithDescriptors = [&](unsigned int count) {
     return InChild([&] {
       const int next = dup(STDERR_FILENO);
