@@ -136,8 +136,8 @@ class APMQDF_EXPORT APMQDF {
   virtual int GetMinimumMargin(double& first, double& second, double& third, double& fourth);
 
   // Takes over what HP resources don't hold: the header texts, the limits and margins in the order
-  // in which the two operations above hand them out, deep copies of the records and of the tree.
-  // For a fresh object. 0 when memory runs out.
+  // in which the two operations above hand them out, deep copies of the records and of the tree,
+  // which may be null. For a fresh object. 0 when memory runs out, else 1.
   virtual int InitiateAPMQDF(const AString& productType, const AString& translationTable,
                              const AString& customMediaFile, double limit1, double limit2,
                              double limit3, double limit4, double margin1, double margin2,

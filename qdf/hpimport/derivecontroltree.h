@@ -18,6 +18,9 @@ int DeriveControlTree(APtrArray& resources, APtrArray& inkList, APtrArray& media
                       CQDFNode* root, AStringArray& iccProfiles, AStringArray& oemInfos,
                       AStringArray& ditherNames);
 
+// The steps of the derivation, each by itself and as plainly as it can be said. DeriveControlTree
+// takes quicker ways to the same results, which the fuzz target `derivation` compares with these.
+
 // The first child, in order, that has an id in common with `ids`; it takes over the others of them.
 // Without one a new child with these ids.
 CQDFNode* FindOrAddChild(CQDFNode* parent, ADWordArray& ids);

@@ -16,6 +16,6 @@ struct PassedOver {
 
 // Does what PMGetHPRecursive does, and appends to `passedOver` what it passed over, in the order of
 // the search. False when somebody moved a folder while the search was inside, and what lies behind
-// it wasn't found. A lack of memory or descriptors throws bad_alloc.
+// it wasn't found. A lack of memory or descriptors, or a path that is too long, throws bad_alloc.
 [[nodiscard]] bool CollectHPResources(const AString& folder, APtrArray& records,
                                       std::vector<PassedOver>& passedOver);

@@ -72,6 +72,7 @@ class KeyIndex {
   }
 
  private:
+  // Compilers warn where a thing is compared with itself, which a key that isn't a number needs.
   static bool IsEqual(const Key& a, const Key& b) { return a == b; }
 
   int Find(const Key& key, std::uint32_t hash) const {

@@ -15,9 +15,10 @@ extern "C" {
 //
 // There is no result. The file is touched only when a whole document has been derived: without a
 // previous document, a resource, a media, a print mode or a known ink layout nothing happens, nor
-// when somebody moves a folder of resources meanwhile. A file that is read-only is made writable
-// for the length of the write; it then has its former attributes and times again, also when the
-// write has failed.
+// when memory or descriptors run out, when the path of a resource folder is longer than the system
+// takes, or when somebody moves a folder of resources meanwhile. A file that is read-only is made
+// writable for the length of the write; it then has its former attributes and times again, also
+// when the write has failed.
 APMQDF_EXPORT void PMUpdateQDF(AFilePath documentPath, AFilePath resourceFolder);
 
 }  // extern "C"

@@ -26,10 +26,10 @@ struct EntryPair {
   bool IsInBoth() const { return before != nullptr && after != nullptr; }
 };
 
-// Pairs entries that agree in both names, of those that are left such with one internal name, and
-// then such with one display name, and last resolutions of the same numbers; each time in the order
-// of the lists. The result has the entries
-// of `after` in their order and then those that are gone. It points into the lists.
+// Pairs entries that agree in both names; of those that are left such with one internal name, then
+// such with one display name, and last resolutions of the same numbers; each time in the order of
+// the lists. The result has the entries of `after` in their order and then those that are gone. It
+// points into the lists.
 std::vector<EntryPair> PairEntries(const List& before, const List& after);
 
 // The fields that differ, of those that people see. An id isn't looked at: it is no part of what an
