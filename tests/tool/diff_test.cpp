@@ -176,6 +176,28 @@ Settings of combinations (1)
 )"}));
 }
 
+// The lists begin with the same items.
+TEST_F(Diff, TellsOfLongListsWhatDiffers) {
+  const std::string last = "<ICCProfile>b.icc</ICCProfile>";
+  const auto with = [&](const std::string& more) {
+    return Edited({{last.c_str(), (last + more).c_str()}});
+  };
+  folder_.Write("a.qdf", with("<ICCProfile>c</ICCProfile><ICCProfile>d</ICCProfile>"));
+  const struct {
+    const char* profiles;
+    const char* told;
+  } rows[] = {
+      {"<ICCProfile>c</ICCProfile><ICCProfile>e</ICCProfile>", "Profiles  d       e      "},
+      {"<ICCProfile>c</ICCProfile>", "Profiles  d       only the others  "},
+      {"<ICCProfile>d</ICCProfile><ICCProfile>c</ICCProfile>",
+       "Profiles  a.icc, b.icc and 2 more  the same in another order  "},
+  };
+  for (const auto& row : rows) {
+    const std::string out = With(with(row.profiles)).out;
+    EXPECT_NE(out.find(row.told), std::string::npos) << out;
+  }
+}
+
 TEST_F(Diff, TellsProgramsTheSameFromEitherSide) {
   const std::string changed = Edited({{"ID=\"30,31\"", "ID=\"30\""}});
   const auto there = nlohmann::json::parse(With(changed, {"--json"}).out);

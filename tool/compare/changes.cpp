@@ -44,10 +44,11 @@ Value CellOf(const Object* row, const char* key) {
 std::string Tell(const FieldChange& change) {
   const auto text = [](const Value& value) {
     const bool isNone = std::holds_alternative<std::monostate>(value.data);
-    return isNone ? "none" : LineText(Brief(value));
+    return isNone ? "none" : LineText(value);
   };
-  return change.part + (change.part.empty() ? "" : ", ") + change.label + ": " +
-         text(change.before) + " becomes " + text(change.after);
+  const auto [before, after] = BriefChange(change.before, change.after);
+  return change.part + (change.part.empty() ? "" : ", ") + change.label + ": " + text(before) +
+         " becomes " + text(after);
 }
 
 std::string FirstOf(const std::vector<FieldChange>& changes) {
@@ -224,9 +225,10 @@ constexpr PathLabels kMediaSourceLabels = {"Media source combinations",
 Object SettingRow(const TraitChanges& setting, const TraitChange& change,
                   const Comparison& comparison, const PathKind& kind) {
   const bool isRoot = setting.level == 0;
+  auto [before, after] = BriefChange(change.before, change.after);
   Object row{{"setting", "Setting", setting.trait->key, setting.trait->label},
-             {"before", "Before", change.before, Brief(change.before)},
-             {"after", "After", change.after, Brief(change.after)},
+             {"before", "Before", change.before, std::move(before)},
+             {"after", "After", change.after, std::move(after)},
              {nullptr, "For", isRoot ? "" : Tell(change.paths, comparison, kind)}};
   for (std::size_t i = 0; i < setting.level; ++i) {
     row.Add(OptionsField(change.paths, i, kind.levels[i], comparison.NamesOf(kind.levels[i])));

@@ -44,13 +44,14 @@ class Losses {
     for (const Kind& kind : kinds_) {
       const char* noun = kind.count == 1 ? kind.unit->one : kind.unit->many;
       const Place& place = kind.place;
+      auto [before, after] = BriefChange(place.before, place.after);
       rows.emplace_back(
           Object{{"what", "What", kind.name},
                  {"count", nullptr, kind.count},
                  {"unit", "In", kind.unit->key, std::to_string(kind.count) + ' ' + noun},
                  {"first", "First of them", place.name},
-                 {"before", "Before", place.before, Brief(place.before)},
-                 {"after", "After", place.after, Brief(place.after)}});
+                 {"before", "Before", place.before, std::move(before)},
+                 {"after", "After", place.after, std::move(after)}});
     }
     return rows;
   }

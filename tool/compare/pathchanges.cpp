@@ -125,6 +125,27 @@ TraitChanges FindTraitChanges(const PathPair& root, const Trait& trait, std::siz
   return changes;
 }
 
+constexpr std::size_t kMostItems = 2;
+
+// The beginning of a list, and any other value as it stands.
+Value Brief(const Value& value) {
+  const List* list = AsList(value);
+  if (list == nullptr || list->size() <= kMostItems) return value;
+  const List first(list->begin(), list->begin() + kMostItems);
+  return LineText(first) + " and " + std::to_string(list->size() - kMostItems) + " more";
+}
+
+// The items that the other list doesn't have, or not as often.
+List Without(const List& list, const List& other) {
+  std::map<std::string, int> left;
+  for (const Value& item : other) ++left[LineText(item)];
+  List items;
+  for (const Value& item : list) {
+    if (--left[LineText(item)] < 0) items.push_back(item);
+  }
+  return items;
+}
+
 }  // namespace
 
 PathChanges FindPathChanges(const PathComparison& comparison) {
@@ -175,10 +196,16 @@ std::string Tell(const FoldedPaths& paths, const Comparison& comparison, const P
   return text.empty() ? "all of them" : text;
 }
 
-Value Brief(const Value& value) {
-  constexpr std::size_t kMost = 2;
-  const List* list = AsList(value);
-  if (list == nullptr || list->size() <= kMost) return value;
-  const List first(list->begin(), list->begin() + kMost);
-  return LineText(first) + " and " + std::to_string(list->size() - kMost) + " more";
+std::pair<Value, Value> BriefChange(const Value& before, const Value& after) {
+  const List* former = AsList(before);
+  const List* now = AsList(after);
+  if (former == nullptr || now == nullptr) return {Brief(before), Brief(after)};
+  if (former->size() <= kMostItems && now->size() <= kMostItems) return {before, after};
+  const List gone = Without(*former, *now);
+  const List added = Without(*now, *former);
+  if (gone.empty() && added.empty()) return {Brief(before), "the same in another order"};
+  const auto tell = [](const List& items, const List& all) {
+    return items.empty() && !all.empty() ? Value("only the others") : Brief(items);
+  };
+  return {tell(gone, *former), tell(added, *now)};
 }

@@ -3,6 +3,7 @@
 // What became of the paths of a document, folded.
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tool/compare/fold.h"
@@ -50,5 +51,6 @@ std::string Tell(const OptionSet& options, const std::vector<std::string>& names
 // Those of all levels but where it is every one: "Glossy; Draft", or "all of them".
 std::string Tell(const FoldedPaths& paths, const Comparison& comparison, const PathKind& kind);
 
-// The beginning of a list, and any other value as it stands.
-Value Brief(const Value& value);
+// Both values for people. Of long lists only the first of those items that aren't in both: the
+// beginnings of the lists may well be the same.
+std::pair<Value, Value> BriefChange(const Value& before, const Value& after);
