@@ -13,7 +13,10 @@ class Explainer {
   Explainer(APMQDF& document, Explanation& result) : result_(result) {
     for (const Level& level : result.levels) {
       auto& known = result.known.emplace_back();
-      for (Choice& choice : level.all(document)) known.emplace(choice.id, std::move(choice));
+      for (Choice& choice : level.all(document)) {
+        if (result.known.size() == 1) first_.push_back(choice.id);
+        known.emplace(choice.id, std::move(choice));
+      }
     }
     const DocumentMembers members(document);
     const CQDFNode& root = result.IsJob() ? members.ControlTreeRoot : members.MediaSourceTreeRoot;
@@ -31,8 +34,9 @@ class Explainer {
 
   std::size_t ChoiceCount() const { return result_.choices.size(); }
 
-  // Of the nodes with margins only the first counts.
+  // All inks are listed, whatever the tree holds. Of the nodes with margins only the first counts.
   std::vector<int> Options(const CQDFNode& node, std::size_t level) const {
+    if (result_.IsJob() && level == 0) return first_;
     std::vector<int> options;
     if (level == result_.levels.size()) return options;
     const bool isFirstOnly = result_.levels[level].option == nullptr;
@@ -57,7 +61,9 @@ class Explainer {
       deciding_.push_back(next);
     }
     result_.at = deciding_.size() - 1;
-    result_.answers = !result_.IsUnlisted() && LeadsOn(*deciding_.back());
+    const bool isInkAlone = result_.IsJob() && result_.at == 0 && result_.IsUnlisted();
+    if (isInkAlone) result_.at = 1;
+    result_.answers = !isInkAlone && !result_.IsUnlisted() && LeadsOn(*deciding_.back());
   }
 
   void Stand(const CQDFNode& root) {
@@ -101,7 +107,8 @@ class Explainer {
 
   // On the level that fails or before it; what stands behind it can't help.
   void FindChanges() {
-    for (std::size_t level = 0; level <= result_.at && level < ChoiceCount(); ++level) {
+    const std::size_t levels = std::min(deciding_.size(), ChoiceCount());
+    for (std::size_t level = 0; level < levels; ++level) {
       std::unordered_set<int> told{result_.choices[level].id};
       const CQDFNode& node = *deciding_[level];
       for (int i = 0; i < node.Children.GetSize(); ++i) {
@@ -127,6 +134,7 @@ class Explainer {
   }
 
   Explanation& result_;
+  std::vector<int> first_;                 // the ids of the first level's list
   std::vector<const CQDFNode*> deciding_;  // for so many choices, from none on
 };
 

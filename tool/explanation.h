@@ -25,6 +25,7 @@ struct Explanation {
   bool answers = false;  // each choice is listed behind those before it, and something follows
   std::size_t at = 0;    // the level that fails, or else the one that follows, or the end
   // For the choices before that level, in the order of a search. The first decides what is listed.
+  // None for an ink that the tree doesn't hold: all inks of the list are listed all the same.
   std::vector<StandingNode> standing;
 
   // An option of that level that only nodes behind the first hold.

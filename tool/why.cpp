@@ -29,6 +29,7 @@ class Teller {
   explicit Teller(const Explanation& facts) : facts_(facts) {}
 
   std::string Text() const {
+    if (facts_.standing.empty()) return InkAlone() + TellChanges();
     return Verdict() + TellNodes() + TellListed() + TellHidden() + TellFound() + TellChanges();
   }
 
@@ -55,6 +56,11 @@ class Teller {
       text += (i > 0 ? ", " : "") + Tell(facts_.levels[i], facts_.choices[i]);
     }
     return text;
+  }
+
+  std::string InkAlone() const {
+    return UpperFirst(Tell(facts_.levels[0], facts_.choices[0])) +
+           " is offered, but no Ink element of the tree holds it, so no media follow.";
   }
 
   std::string Verdict() const {

@@ -177,9 +177,13 @@ TEST_F(Narrow, SaysWhy) {
     const char* text;
   } rows[] = {
       {"--ink 3", R"(
-Ink 3 "Unused" isn't listed. The tree holds only inks 1 "Photo Black" and 2
-"Matte Black". Ink 1 "Photo Black" or 2 "Matte Black" instead of 3 would give an
+Ink 3 "Unused" is offered, but no Ink element of the tree holds it, so no media
+follow. Ink 1 "Photo Black" or 2 "Matte Black" instead of 3 would give an
 answer.
+)"},
+      {"--ink 3 --media 11", R"(
+Ink 3 "Unused" is offered, but no Ink element of the tree holds it, so no media
+follow. Ink 1 "Photo Black" instead of 3 would give an answer.
 )"},
       {"--ink 2", R"(
 Media 10 "Plain" may follow ink 2 "Matte Black". 2 nodes stand for that choice,
@@ -221,6 +225,8 @@ Media source 50 "Roll" instead of 51 would give an answer.
     EXPECT_EQ(outcome.out.substr(std::min(outcome.out.find("\n\n") + 1, outcome.out.size())),
               row.text);
   }
+  EXPECT_TRUE(std::string(Json("--why")["job"]["text"])
+                  .starts_with("Inks 1 \"Photo Black\", 2 \"Matte Black\" and 3 \"Unused\" may"));
   nlohmann::json why = Json("--ink 2 --media 13 --why")["job"];
   EXPECT_TRUE(std::string(why["text"]).starts_with("Media 13 \"Glossy\" isn't listed"));
   why.erase("text");
