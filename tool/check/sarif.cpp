@@ -36,7 +36,10 @@ int Utf16Column(const Source& source, Position position) {
   const std::string_view before =
       source.Line(position.line).substr(0, static_cast<std::size_t>(position.column) - 1);
   int units = position.column - static_cast<int>(before.size());
-  for (const char c : before) {
+  // What reads the file takes the byte order mark off.
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  const bool isMarked = position.line == 1 && before.substr(0, kMark.size()) == kMark;
+  for (const char c : isMarked ? before.substr(kMark.size()) : before) {
     const auto byte = static_cast<unsigned char>(c);
     if ((byte & 0xC0U) != 0x80U) units += byte >= 0xF0U ? 2 : 1;
   }
