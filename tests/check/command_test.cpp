@@ -46,10 +46,23 @@ constexpr MessageRow kMessages[] = {
      "this element [default-unknown]",
      "name one that stands below, or take the attribute out"},
     {"<Size>9 9 9 9</Size>", "<Size>9 9 nine 9</Size>",
-     "31:69: warning: `nine` in Size isn't a number: reading stops there, and what is missing "
-     "stays "
-     "0 [number-malformed]",
+     "31:69: warning: `nine` in Size isn't a plain number: Size is read as 9, 9, 0 and 0 "
+     "[number-malformed]",
      "write 4 numbers with commas or blanks between them"},
+    {"<Size>595,842</Size>", "<Size>595.5mm,842</Size>",
+     "27:66: warning: `595.5mm` in Size isn't a plain number: Size is read as 595.5 and 0 "
+     "[number-malformed]",
+     "write 2 numbers with commas or blanks between them"},
+    {"<Size>595,842</Size>", "<Size>nan,842</Size>",
+     "27:66: warning: the Size `nan,842` gives a dimension that isn't above 0 [size-not-positive]",
+     "write two positive numbers"},
+    {"<Size>595,842</Size>", "<Size>595,0x10</Size>",
+     "27:66: warning: `0x10` in Size isn't a plain number: Size is read as 595 and 16 "
+     "[number-malformed]",
+     "write 2 numbers with commas or blanks between them"},
+    {"<MediaSize ID=`1` MarginIDList=", "<MediaSize ID=`1` MarginID=",
+     "64:25: warning: nobody reads the attribute MarginID in MediaSize [attribute-unknown]",
+     "did you mean `MarginIDList`?"},
     {"Name=`Fine`", "Name=`fine`",
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",
@@ -73,6 +86,18 @@ TEST(CheckCommand, TellsWhereAndWhatInWords) {
     const std::string expected = std::string(row.message) + "\n  hint: " + row.hint + "\n";
     EXPECT_THAT(outcome.out, testing::HasSubstr("d.qdf:" + WithQuotes(expected)));
   }
+}
+
+TEST(CheckCommand, CutsNamesBetweenCharacters) {
+  const TempFolder folder;
+  const auto accents = [](int count) {
+    std::string text;
+    while (count-- > 0) text += "\xC3\xA9";
+    return text;
+  };
+  folder.Write("d.qdf", PageWith("<InternalName>Black<", "<InternalName>a" + accents(40) + "<"));
+  EXPECT_THAT(RunTool({"check", "d.qdf"}, {folder.Path()}).out,
+              testing::HasSubstr("it ends in \"" + accents(9) + "\" [name-cut]"));
 }
 
 TEST(CheckCommand, ShowsOnATerminalWhatThePageShows) {
@@ -195,6 +220,11 @@ TEST(CheckCommand, WritesSarif) {
   EXPECT_EQ(place["physicalLocation"]["region"],
             Json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
   EXPECT_EQ(place["logicalLocations"][0]["fullyQualifiedName"], "/QDF_Info/Definition");
+  // A byte order mark at the beginning is no column.
+  const std::string marked = folder.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
+  const Json alone = Json::parse(RunTool({"check", "--format", "sarif", marked}).out);
+  EXPECT_EQ(alone["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["region"],
+            Json::parse(R"({"startLine": 1, "startColumn": 2, "endLine": 1, "endColumn": 10})"));
   place = run["results"][5]["locations"][0];
   EXPECT_FALSE(place["physicalLocation"].contains("region"));
 }

@@ -199,7 +199,7 @@ class ListRules {
     ScanDoubles(size.text.c_str(), std::array{&first, &second});
     if (first > 0.0 && second > 0.0) return;
     findings_.Add(Code::kSizeNotPositive, element, size.place,
-                  "the Size " + Quote(size.text) + " gives a dimension of 0 or less",
+                  "the Size " + Quote(size.text) + " gives a dimension that isn't above 0",
                   "write two positive numbers");
   }
 

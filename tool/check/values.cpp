@@ -1,5 +1,6 @@
 #include "tool/check/values.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -39,6 +40,31 @@ std::vector<std::string> Pieces(std::string_view text) {
   }
   if (pieces.back().empty()) pieces.pop_back();
   return pieces;
+}
+
+// As in: "9, 9, 0 and 0".
+std::string ScannedText(const std::string& text, std::size_t count) {
+  std::array<double, 4> numbers{};
+  std::array<double*, 4> targets{};
+  for (std::size_t i = 0; i < targets.size(); ++i) targets[i] = &numbers[i];
+  ScanDoubles(text.c_str(), targets.data(), count);
+  std::string all = NumberText(numbers[0]);
+  for (std::size_t i = 1; i < count; ++i) {
+    all += (i + 1 == count ? " and " : ", ") + NumberText(numbers[i]);
+  }
+  return all;
+}
+
+bool ContinuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
+
+// About so many bytes before the cut, whole characters only.
+std::string_view EndBefore(std::string_view text, std::size_t cut) {
+  constexpr std::size_t kShown = 20;
+  std::size_t end = cut;
+  while (end > cut - kShown && ContinuesCharacter(text[end])) --end;
+  std::size_t begin = cut - kShown;
+  while (begin < end && ContinuesCharacter(text[begin])) ++begin;
+  return text.substr(begin, end - begin);
 }
 
 }  // namespace
@@ -85,10 +111,10 @@ bool CheckNumbers(const Given& given, std::size_t count, Findings& findings) {
   for (std::size_t i = 0; i < pieces.size() && i < count; ++i) {
     if (IsNumber(pieces[i])) continue;
     findings.Add(Code::kNumberMalformed, given.element, given.place,
-                 Quote(pieces[i]) + " in " + given.name +
-                     " isn't a number: reading stops there, and what is missing stays 0",
+                 Quote(pieces[i]) + " in " + given.name + " isn't a plain number: " + given.name +
+                     " is read as " + ScannedText(given.text, count),
                  "write " + wanted + " with commas or blanks between them");
-    return false;
+    return pieces.size() >= count;
   }
   if (pieces.size() < count) {
     findings.Add(Code::kNumbersMissing, given.element, given.place,
@@ -124,7 +150,7 @@ void CheckNameFits(const Given& given, std::size_t fieldSize, Findings& findings
   if (given.text.size() <= fieldSize) return;
   findings.Add(Code::kNameCut, given.element, given.place,
                given.name + " is longer than " + std::to_string(fieldSize) +
-                   " bytes and is cut: it ends in " + Quote(given.text.substr(fieldSize - 20, 20)),
+                   " bytes and is cut: it ends in " + Quote(EndBefore(given.text, fieldSize)),
                "use a shorter name");
 }
 

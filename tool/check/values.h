@@ -33,8 +33,8 @@ std::string NumberText(double number);
 void CheckWholeNumber(const Given& given, Findings& findings);
 void CheckShortNumber(const Given& given, Findings& findings);
 
-// The same for so many numbers between blanks or commas; tells as well when some are missing, and
-// answers whether all are there.
+// The same for so many numbers, four at most, between blanks or commas; tells as well when some are
+// missing, and answers whether so many are there, numbers or not.
 bool CheckNumbers(const Given& given, std::size_t count, Findings& findings);
 
 // The same for "600" and "300x600". False when one of the numbers isn't positive: that is for the
