@@ -43,6 +43,7 @@ class Searches {
   }
 
   Paths unreached;  // the topmost of those that no search finds
+  Paths shadowed;   // of the others, those with an id that leads no search to or through them
   Paths hidden;     // those with an id that can be reached and isn't listed
 
  private:
@@ -71,13 +72,14 @@ class Searches {
   }
 
   // As the queries do: the first path whose nodes hold the ids.
-  static const CQDFNode* Find(CQDFNode& node, const std::vector<int>& ids, std::size_t depth = 0) {
+  const CQDFNode* Find(CQDFNode& node, const std::vector<int>& ids, std::size_t depth = 0) {
     if (depth == ids.size()) return &node;
     const CQDFNode* found = nullptr;
     for (int i = 0; found == nullptr && i < node.Children.GetSize(); ++i) {
       CQDFNode& child = *ChildAt(node, i);
       const auto id = static_cast<std::uint32_t>(ids[depth]);
       if (IsIDInArray(id, child) != 0) found = Find(child, ids, depth + 1);
+      if (found != nullptr) leading_.insert({&child, id});
     }
     return found;
   }
@@ -105,6 +107,10 @@ class Searches {
     for (int i = 0; depth < kDepth && i < node.Children.GetSize(); ++i) {
       reached = AddUnreached(*ChildAt(node, i), depth + 1, below) || reached;
     }
+    const auto leads = [&](std::uint32_t id) { return leading_.count({&node, id}) > 0; };
+    if (reached && !std::all_of(node.IDs.begin(), node.IDs.end(), leads)) {
+      shadowed.insert(paths_[&node]);
+    }
     if (reached) paths.merge(below);
     if (!reached) paths.insert(paths_[&node]);
     return reached;
@@ -113,6 +119,7 @@ class Searches {
   CQDFNode& root_;
   std::map<const CQDFNode*, std::string> paths_;
   std::set<const CQDFNode*> found_;
+  std::set<std::pair<const CQDFNode*, std::uint32_t>> leading_;
 };
 
 Paths PathsWith(check::Code code, const std::vector<check::Finding>& findings) {
@@ -127,6 +134,7 @@ TEST(Reach, IsWhatSearchesForAllIDsFind) {
   const TempFolder folder;
   std::size_t unreached = 0;
   std::size_t hidden = 0;
+  std::size_t shadowed = 0;
   for (unsigned int seed = 0; seed < 60; ++seed) {
     std::mt19937 random(seed);
     const std::string tree = RandomTree(random, 0);
@@ -139,11 +147,14 @@ TEST(Reach, IsWhatSearchesForAllIDsFind) {
     const std::vector<check::Finding> findings = check::Examine(path).findings;
     EXPECT_EQ(PathsWith(check::Code::kNeverReached, findings), searches.unreached) << tree;
     EXPECT_EQ(PathsWith(check::Code::kOptionHidden, findings), searches.hidden) << tree;
+    EXPECT_EQ(PathsWith(check::Code::kIDsShadowed, findings), searches.shadowed) << tree;
     unreached += searches.unreached.size();
     hidden += searches.hidden.size();
+    shadowed += searches.shadowed.size();
   }
   EXPECT_GT(unreached, 20U);
   EXPECT_GT(hidden, 20U);
+  EXPECT_GT(shadowed, 20U);
 }
 
 }  // namespace

@@ -77,6 +77,8 @@ constexpr Rule kRules[] = {
     {Code::kNameCase, "name-case", kWarning, "names differ in case only"},
 
     {Code::kNeverReached, "never-reached", kWarning, "no choice of ids leads to this element"},
+    {Code::kIDsShadowed, "ids-shadowed", kWarning,
+     "earlier elements answer for some ids of an element in every choice"},
     {Code::kOptionHidden, "option-hidden", kWarning,
      "an option can be reached by ids but is never listed"},
     {Code::kReachUnfinished, "reach-unfinished", kNote,

@@ -78,6 +78,7 @@ enum class Code {
 
   // What can be reached.
   kNeverReached,
+  kIDsShadowed,
   kOptionHidden,
   kReachUnfinished,
   kEntryUnused,

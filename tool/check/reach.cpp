@@ -6,10 +6,11 @@
 // found level by level; ids that lead to the same nodes are followed once.
 
 #include <algorithm>
-#include <set>
+#include <map>
 #include <unordered_map>
 #include <unordered_set>
 
+#include "qdf/support/idset.h"
 #include "tool/check/idsets.h"
 #include "tool/check/rules.h"
 
@@ -40,6 +41,7 @@ class ReachRules {
 
  private:
   using Nodes = std::vector<const ElementNode*>;  // in the order of a search
+  using NodeSet = std::unordered_set<const ElementNode*>;
 
   struct HiddenOption {
     std::uint32_t id;
@@ -53,6 +55,12 @@ class ReachRules {
     std::uint32_t id;
   };
 
+  // What became of the ids of a node.
+  struct Fate {
+    IDSet useful;  // those for which it, or an element under it, ever answers
+    std::unordered_map<std::uint32_t, const ElementNode*> answeredBy;  // by others at some time
+  };
+
   // False when too many ids were looked at.
   bool Count(const ElementNode& node) {
     steps_ += static_cast<std::size_t>(node.ids.GetSize());
@@ -60,14 +68,18 @@ class ReachRules {
   }
 
   // `matching` are the nodes that match the chosen ids; goes through all ids of the level below.
-  void Follow(std::size_t level, const Nodes& matching) {
-    if (steps_ > kMostSteps || !followed_.insert(matching).second) return;
+  // Answers which of the nodes have an element under them that answers for some.
+  const NodeSet& Follow(std::size_t level, const Nodes& matching) {
+    const auto [followed, isNew] = followed_.try_emplace(matching);
+    NodeSet& leading = followed->second;
+    if (steps_ > kMostSteps || !isNew) return leading;
     FindHidden(level, matching);
     std::vector<std::uint32_t> ids;
     std::unordered_map<std::uint32_t, Nodes> holders;
     for (const ElementNode* node : matching) {
       for (const ElementNode& child : node->children) {
-        if (!Count(child)) return;
+        if (!Count(child)) return leading;
+        parents_[&child] = node;
         for (const std::uint32_t id : child.ids) {
           Nodes& nodes = holders[id];
           if (nodes.empty()) ids.push_back(id);
@@ -75,14 +87,29 @@ class ReachRules {
         }
       }
     }
-    std::set<Nodes> told;
     for (const std::uint32_t id : ids) {
-      const Nodes& nodes = holders[id];
-      if (!told.insert(nodes).second) continue;
       chosen_[level] = id;
-      answering_.insert(nodes.front());
-      for (const ElementNode* node : nodes) shadow_.emplace(node, Shadow{nodes.front(), id});
-      if (level + 1 < kControlLevels.size()) Follow(level + 1, nodes);
+      Choose(level, id, holders[id], leading);
+    }
+    return leading;
+  }
+
+  // `nodes` hold the id.
+  void Choose(std::size_t level, std::uint32_t id, const Nodes& nodes, NodeSet& leading) {
+    const ElementNode* first = nodes.front();
+    answering_.insert(first);
+    const NodeSet none;
+    const bool isLast = level + 1 == kControlLevels.size();
+    const NodeSet& below = isLast ? none : Follow(level + 1, nodes);
+    for (const ElementNode* node : nodes) {
+      shadow_.emplace(node, Shadow{first, id});
+      Fate& fate = fates_[node];
+      if (node == first || below.find(node) != below.end()) {
+        fate.useful.Add(id);
+        leading.insert(parents_[node]);
+      } else {
+        fate.answeredBy.emplace(id, first);
+      }
     }
   }
 
@@ -139,6 +166,7 @@ class ReachRules {
   void TellUnreached(const std::vector<ElementNode>& nodes, std::size_t level = 0) {
     for (const ElementNode& node : nodes) {
       if (IsReached(node)) {
+        TellShadowedIDs(node, level);
         TellUnreached(node.children, level + 1);
       } else {
         TellShadowed(node, level, shadow_.find(&node)->second);
@@ -155,12 +183,36 @@ class ReachRules {
                   "merge the two, or take ids out of the first");
   }
 
+  void TellShadowedIDs(const ElementNode& node, std::size_t level) {
+    const Fate& fate = fates_[&node];
+    std::string told;
+    std::size_t more = 0;
+    const ElementNode* by = nullptr;
+    for (const std::uint32_t id : node.ids) {
+      const auto answered = fate.answeredBy.find(id);
+      if (fate.useful.Holds(id) || answered == fate.answeredBy.end()) continue;
+      constexpr std::size_t kMost = 4;
+      if (by == nullptr) by = answered->second;
+      if (more++ < kMost) told += (told.empty() ? "" : ", ") + Describe(level, id);
+      if (more == kMost + 1) told += " and more";
+    }
+    if (by == nullptr) return;
+    const std::string name = node.element.Name();
+    findings_.Add(Code::kIDsShadowed, node.element, node.element.Find("ID").ValuePlace(),
+                  "nothing under this " + name + " is ever found for " + told +
+                      ": others answer first, such as the " + name + " on " +
+                      findings_.LineOf(by->element),
+                  "take the ids out of one of the two");
+  }
+
   const Lists& lists_;
   Findings& findings_;
   std::size_t steps_ = 0;
   std::array<std::uint32_t, kControlLevels.size()> chosen_{};
-  std::set<Nodes> followed_;
-  std::unordered_set<const ElementNode*> answering_;
+  std::map<Nodes, NodeSet> followed_;
+  std::unordered_map<const ElementNode*, const ElementNode*> parents_;
+  std::unordered_map<const ElementNode*, Fate> fates_;
+  NodeSet answering_;
   std::unordered_map<const ElementNode*, Shadow> shadow_;
   std::unordered_map<const ElementNode*, HiddenOption> hidden_;
 };
