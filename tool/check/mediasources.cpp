@@ -56,21 +56,13 @@ class MediaSourceRules {
   MediaSourceRules(const Lists& lists, Findings& findings) : lists_(lists), findings_(findings) {}
 
   std::vector<ElementNode> Run(const Element& section) {
-    std::vector<ElementNode> sources;
-    FirstAnswers answers(kMediaSources, findings_);
-    for (Element each = section.First("MediaSource"); each; each = each.Next("MediaSource")) {
-      const IDSetUse use = Use(each, "ID", kMediaSources);
-      ElementNode source{each, CheckIDs(use, findings_), {}};
-      if (source.ids.GetSize() == 0) {
-        TellNoIDs(use, findings_);
-        continue;
-      }
-      answers.Add(source);
-      source.children = ExamineSizes(each);
-      sources.push_back(std::move(source));
-    }
-    FinishLevel(section, "DefaultMediaSourceID", kMediaSources, sources);
-    return sources;
+    const auto examineSizes = [this](ElementNode& source) {
+      source.children =
+          ExamineLevel(source.element, {"MediaSize", "DefaultMediaSizeID", kMediaSizes},
+                       [this](ElementNode& size) { ExamineMargins(size.element, size); });
+    };
+    return ExamineLevel(section, {"MediaSource", "DefaultMediaSourceID", kMediaSources},
+                        examineSizes);
   }
 
  private:
@@ -78,22 +70,31 @@ class MediaSourceRules {
     return {element, attribute, kind, lists_[kind]};
   }
 
-  std::vector<ElementNode> ExamineSizes(const Element& source) {
-    std::vector<ElementNode> sizes;
-    FirstAnswers answers(kMediaSizes, findings_);
-    for (Element each = source.First("MediaSize"); each; each = each.Next("MediaSize")) {
-      const IDSetUse use = Use(each, "ID", kMediaSizes);
-      ElementNode size{each, CheckIDs(use, findings_), {}};
-      if (size.ids.GetSize() == 0) {
+  struct LevelForm {
+    const char* element;
+    const char* defaultAttribute;  // of the element above
+    ListKind kind;
+  };
+
+  // `examineBelow` takes each node that has ids.
+  template <class ExamineBelow>
+  std::vector<ElementNode> ExamineLevel(const Element& above, const LevelForm& form,
+                                        ExamineBelow examineBelow) {
+    std::vector<ElementNode> nodes;
+    FirstAnswers answers(form.kind, findings_);
+    for (Element each = above.First(form.element); each; each = each.Next(form.element)) {
+      const IDSetUse use = Use(each, "ID", form.kind);
+      ElementNode node{each, CheckIDs(use, findings_), {}};
+      if (node.ids.GetSize() == 0) {
         TellNoIDs(use, findings_);
         continue;
       }
-      answers.Add(size);
-      ExamineMargins(each, size);
-      sizes.push_back(std::move(size));
+      answers.Add(node);
+      examineBelow(node);
+      nodes.push_back(std::move(node));
     }
-    FinishLevel(source, "DefaultMediaSizeID", kMediaSizes, sizes);
-    return sizes;
+    FinishLevel(above, form.defaultAttribute, form.kind, nodes);
+    return nodes;
   }
 
   void ExamineMargins(const Element& element, ElementNode& size) {
