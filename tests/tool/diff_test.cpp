@@ -84,6 +84,10 @@ Dead ends new (1)
   Ink          Media                   How many
   Matte Black  every but Glossy (gl2)         2
 
+Settings of combinations (1)
+  Setting        Before  After  For          How many
+  Default media  Plain   10     Matte Black         1
+
 Media source combinations
   Before:  5
   After:   4
@@ -98,6 +102,10 @@ Groups of media source combinations lost (1)
 Dead ends of media sources new (1)
   Media source  How many
   Tray                 1
+
+Settings of media sources (1)
+  Setting             Before  After  For   How many
+  Default media size  A4      -      Tray         1
 )"}));
 }
 
@@ -148,9 +156,9 @@ Groups of combinations won (1)
   Photo Black  Super             12
 
 Settings of combinations (2)
-  Setting             Before        After          For          How many
-  Default print mode  Best          unknown id 21  Photo Black         3
-  Profiles            a.icc, b.icc  b.icc          Photo Black        12
+  Setting             Before        After  For          How many
+  Default print mode  Best          Fast   Photo Black         3
+  Profiles            a.icc, b.icc  b.icc  Photo Black        12
 
 Media source combinations
   Before:  5
@@ -174,6 +182,30 @@ Settings of combinations (1)
   Setting                Before     After      For          How many
   Printer specific text  Quality=1  Quality=2  all of them        24
 )"}));
+}
+
+TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
+  const struct {
+    Edit edit;
+    const char* told;
+  } rows[] = {
+      {{" DefaultInk=\"1\"", ""}, ""},
+      {{" DefaultInk=\"1\"", " DefaultInk=\"99\""}, ""},
+      {{" DefaultInk=\"1\"", " DefaultInk=\"3\""}, "Default ink  Photo Black  Unused"},
+      {{" DefaultMedia=\"11\"", ""}, "Default media  Glossy (gl)  10"},
+      {{" DefaultColorMode=\"99\"", ""}, ""},
+      {{" DefaultColorMode=\"99\"", " DefaultColorMode=\"40\""}, ""},
+      {{" DefaultMarginID=\"71\"", ""}, "Default margins  wide    narrow"},
+      {{"DefaultICCProfile=\"b.icc\"", "DefaultICCProfile=\"other\""},
+       "Default profile  b.icc   -  "},
+      {{"<ICCProfile>a.icc", "<ICCProfile>all"}, "Profiles  a.icc, b.icc  ALL"},
+      {{"<Dither Name=\"Coarse\"/>", "<Dither Name=\"All\"/>"}, "Dithers  Fine, Coarse  ALL"},
+  };
+  for (const auto& row : rows) {
+    const Outcome outcome = With(Edited({row.edit}));
+    EXPECT_EQ(outcome.code, *row.told == '\0' ? 0 : 1) << row.edit.to;
+    EXPECT_NE(outcome.out.find(row.told), std::string::npos) << outcome.out;
+  }
 }
 
 // The lists begin with the same items.

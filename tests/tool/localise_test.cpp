@@ -58,7 +58,7 @@ TEST_F(QdfLocalise, WritesTranslatedMediaToo) {
                               "Table file:        OutputDrivers/small.txt\n"
                               "Names translated:  5\n"
                               "Written:           new.qdf\n"
-                              "\nNo longer held (11)\n"))
+                              "\nNo longer held (10)\n"))
       << written;
   const nlohmann::json shown = RunJson({"show", "./new.qdf"}, {folder_.Path()});
   EXPECT_EQ(shown["media"][1]["displayName"], "Brillant");

@@ -103,9 +103,10 @@ Groups of combinations won (2)
   Gloss  every              2
   Matte  premium            2
 
-Settings of combinations (3)
+Settings of combinations (4)
   Setting             Before      After    For          How many
-  Default print mode  best        premium  all of them         3
+  Default media       Film        Gloss    all of them         1
+  Default print mode  best        premium  Matte               1
   Profiles            plbest.icc  new.icc  Plain; best         2
   Default profile     plbest.icc  new.icc  Plain; best         2
 )"}));

@@ -18,10 +18,14 @@ std::vector<FieldChange> CompareHeaders(APMQDF& before, APMQDF& after) {
 
 // What one of the two documents knows of the entries.
 std::vector<KnownEntries> Known(const std::vector<ListComparison>& lists,
-                                const Object* EntryPair::*side) {
+                                const Object* EntryPair::*side, List ListComparison::*rows) {
   std::vector<KnownEntries> known;
   for (const ListComparison& list : lists) {
-    KnownEntries entries{{}, &list.names};
+    KnownEntries entries{{}, {}, &list.names};
+    for (const Value& row : list.*rows) {
+      entries.order.emplace(IDOf(std::get<Object>(row.data)),
+                            static_cast<int>(entries.order.size()));
+    }
     for (std::size_t i = 0; i < list.entries.size(); ++i) {
       const Object* row = list.entries[i].*side;
       if (row != nullptr) entries.places.emplace(IDOf(*row), static_cast<int>(i));
@@ -86,7 +90,9 @@ Comparison::Comparison(APMQDF& before, APMQDF& after) : header(CompareHeaders(be
 void Comparison::ComparePaths(APMQDF& before, APMQDF& after, PathComparison& comparison) {
   const PathKind& kind = *comparison.kind;
   const bool read =
-      ReadPaths(before, kind, Known(lists, &EntryPair::before), kMostPaths, comparison.before) &&
-      ReadPaths(after, kind, Known(lists, &EntryPair::after), kMostPaths, comparison.after);
+      ReadPaths(before, kind, Known(lists, &EntryPair::before, &ListComparison::before), kMostPaths,
+                comparison.before) &&
+      ReadPaths(after, kind, Known(lists, &EntryPair::after, &ListComparison::after), kMostPaths,
+                comparison.after);
   if (read) comparison.root = Pair(kRoot, &comparison.before, &comparison.after);
 }

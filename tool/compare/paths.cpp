@@ -6,6 +6,7 @@
 #include "qdf/control/ditherlist.h"
 #include "qdf/core/documentmembers.h"
 #include "qdf/support/text.h"
+#include "qdf/support/uniqueids.h"
 #include "tool/reportline.h"
 
 namespace {
@@ -66,13 +67,30 @@ Value TextAt(const AStringArray& texts, int index) {
   return text.GetLength() > 0 ? Value(static_cast<const char*>(text)) : Value();
 }
 
-List TextsOf(const CQDFNode& leaf, const AStringArray& texts) {
+bool IsAll(const Value& name) { return EqualNoCase(LineText(name), "ALL"); }
+
+// As queries hand them out: each once, and "ALL" alone.
+List NamesOf(const CQDFNode& leaf, const AStringArray& names) {
   List list;
-  for (const std::uint32_t id : leaf.IDs) {
+  ADWordArray indices;
+  UniqueIDs(indices).AddAll(leaf.IDs);
+  for (const std::uint32_t id : indices) {
     const int index = static_cast<int>(id);
-    if (index >= 0 && index < texts.GetSize()) list.push_back(TextAt(texts, index));
+    if (index < 0 || index >= names.GetSize()) continue;
+    list.push_back(TextAt(names, index));
+    if (IsAll(list.back())) return {Value("ALL")};
   }
   return list;
+}
+
+// Only a profile that the list allows is handed out.
+Value Accepted(const Value& profile, const List& profiles) {
+  const std::string name = LineText(profile);
+  const bool isAllowed =
+      profiles.empty() || std::any_of(profiles.begin(), profiles.end(), [&](const Value& each) {
+        return IsAll(each) || EqualNoCase(LineText(each), name);
+      });
+  return isAllowed ? profile : Value();
 }
 
 List RipResolutionsOf(const CQDFNode& leaf, const APtrArray& records) {
@@ -151,12 +169,40 @@ class PathReader {
     return {node.Children.GetSize() > 0 ? DefaultOf(*ChildAt(node, 0), level) : Value()};
   }
 
-  // 0 means no default, unless an entry has that id.
+  // Of the options listed behind a node the one with its default id, or else the first in the
+  // order of the document's list.
   Value DefaultOf(const CQDFNode& node, std::size_t level) const {
     const KnownEntries& known = entries_[kind_.levels[level].list];
-    const auto found = known.places.find(node.Default);
-    if (found != known.places.end()) return (*known.names)[static_cast<std::size_t>(found->second)];
-    return node.Default == 0 ? Value() : Value("unknown id " + std::to_string(node.Default));
+    const bool areAllListed = kind_.isJob && level == 0;
+    int best = -1;
+    int bestID = 0;
+    const auto offer = [&](int id, int place) {
+      const int rank = id == node.Default ? 0 : place + 1;
+      if (best >= 0 && rank >= best) return;
+      best = rank;
+      bestID = id;
+    };
+    if (areAllListed) {
+      for (const auto& [id, place] : known.order) offer(id, place);
+    } else {
+      ForEachListed(node, level, [&](std::uint32_t each) {
+        const auto found = known.order.find(static_cast<int>(each));
+        if (found != known.order.end()) offer(found->first, found->second);
+      });
+    }
+    if (best < 0) return {};
+    return (*known.names)[static_cast<std::size_t>(known.places.at(bestID))];
+  }
+
+  // The margins of a size stand in one node, with their default.
+  template <class Take>
+  void ForEachListed(const CQDFNode& node, std::size_t level, Take take) const {
+    const bool isMargin = !kind_.isJob && level + 1 == kind_.levels.size();
+    const auto takeAll = [&](const CQDFNode& from) {
+      for (const std::uint32_t id : from.IDs) take(id);
+    };
+    if (isMargin) return takeAll(node);
+    for (int i = 0; i < node.Children.GetSize(); ++i) takeAll(*ChildAt(node, i));
   }
 
   Traits ColorModeTraits(const CQDFNode& node, bool isOffered) const {
@@ -167,11 +213,12 @@ class PathReader {
     const auto preset = [&](int place, const AStringArray& texts) {
       return place < node.Children.GetSize() ? TextAt(texts, leaf(place).Default) : Value();
     };
+    const List profiles = NamesOf(leaf(kProfileLeaf), members_.ICCProfileList);
     return {isOffered ? "yes" : "no",
             TextAt(members_.OEMInfoList, node.Default),
-            TextsOf(leaf(kProfileLeaf), members_.ICCProfileList),
-            preset(kProfileLeaf, members_.ICCProfileList),
-            TextsOf(leaf(kDitherLeaf), members_.DitherNameList),
+            profiles,
+            Accepted(preset(kProfileLeaf, members_.ICCProfileList), profiles),
+            NamesOf(leaf(kDitherLeaf), members_.DitherNameList),
             preset(kDitherLeaf, members_.DitherNameList),
             RipResolutionsOf(leaf(kRipResolutionLeaf), members_.DitherResolutionList)};
   }

@@ -15,7 +15,7 @@
 #include "tool/report.h"
 
 // A setting that belongs to a path, from the root to any level: what is preselected behind it, or
-// what a whole combination says.
+// what a whole combination says; all as queries hand it out.
 struct Trait {
   const char* key;
   const char* label;
@@ -51,6 +51,7 @@ struct PathNode {
 // How the entries of the document's lists are known in a comparison.
 struct KnownEntries {
   std::unordered_map<int, int> places;              // by id
+  std::unordered_map<int, int> order;               // by id: the place in the document's own list
   const std::vector<std::string>* names = nullptr;  // by place
 };
 
