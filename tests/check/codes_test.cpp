@@ -63,6 +63,9 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
     std::string text;
     if (row.code == "reach-unfinished") {
       text = OverlappingText();
+    } else if (row.code == "not-utf8") {
+      text = tables.document;
+      text.replace(text.find("Matte"), 5, "Matt\xE9");
     } else if (row.code != "unreadable") {
       ASSERT_FALSE(row.found.empty());
       text = FoundText(tables, row);
@@ -75,6 +78,30 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
     EXPECT_THAT(mended, testing::IsEmpty());
     if (row.found.empty()) continue;
     EXPECT_THAT(found, testing::Each(testing::AnyOf(row.code, testing::AnyOfArray(kConsequences))));
+  }
+}
+
+TEST(Codes, BytesThatAreNoUTF8) {
+  const CodeTables tables = ReadCodeTables();
+  const struct {
+    const char* bytes;
+    bool isUTF8;
+  } rows[] = {
+      {"\xC2\x80", true},          {"\xDF\xBF", true},
+      {"\xE0\xA0\x80", true},      {"\xEF\xBF\xBD", true},
+      {"\xF0\x90\x80\x80", true},  {"\xF4\x8F\xBF\xBF", true},
+      {"\xED\x9F\xBF", true},      {"\x80", false},
+      {"\xC1\xBF", false},         {"\xE0\x9F\xBF", false},
+      {"\xED\xA0\x80", false},     {"\xF0\x8F\xBF\xBF", false},
+      {"\xF4\x90\x80\x80", false}, {"\xF8\x88\x80\x80", false},
+      {"\xE2\x82", false},
+  };
+  for (const auto& row : rows) {
+    std::string text = tables.document;
+    text.replace(text.find("Matte"), 5, row.bytes);
+    const auto expected =
+        row.isUTF8 ? std::vector<std::string>{} : std::vector<std::string>{"not-utf8"};
+    EXPECT_EQ(CodesIn(text, {}), expected) << row.bytes;
   }
 }
 

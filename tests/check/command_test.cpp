@@ -138,6 +138,10 @@ TEST(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
                             "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
                             "  hint: correct the path, or what it leads to\n"
                             "OutputDrivers/none.qdf: 1 error\n"}));
+  folder.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
+  EXPECT_EQ(RunTool({"check", "wide.qdf"}, {folder.Path()}).out,
+            "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
+            "  hint: save it as UTF-8\nwide.qdf: 1 error\n");
   EXPECT_EQ(RunTool({"show", "bad.qdf"}, {folder.Path()}),
             (Outcome{1, "", "qdf: bad.qdf:2:15: " + reason + "\n"}));
 }

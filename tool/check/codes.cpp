@@ -21,6 +21,7 @@ constexpr Rule kRules[] = {
     {Code::kRootName, "root-name", kNote, "the root element has an unusual name"},
     {Code::kEncodingIgnored, "encoding-ignored", kWarning,
      "the declared encoding isn't looked at: names keep the bytes that they have"},
+    {Code::kNotUTF8, "not-utf8", kWarning, "a byte isn't part of a character of UTF-8"},
 
     {Code::kElementUnknown, "element-unknown", kWarning, "nobody reads this element"},
     {Code::kElementTwice, "element-twice", kWarning, "only the first element of this name counts"},

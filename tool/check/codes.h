@@ -23,6 +23,7 @@ enum class Code {
   kListEmptied,
   kRootName,
   kEncodingIgnored,
+  kNotUTF8,
 
   // What nobody reads.
   kElementUnknown,

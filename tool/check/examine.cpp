@@ -24,11 +24,49 @@ std::string_view ForeignEncoding(std::string_view text) {
   return isFamiliar ? std::string_view() : encoding;
 }
 
+bool IsForeign(char c) { return static_cast<unsigned char>(c) >= 0x80U; }
+
+// The bytes of the character of UTF-8 that the text begins with, 0 when there is none.
+std::size_t CharacterSize(std::string_view text) {
+  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+  if (byte(0) < 0x80U) return 1;
+  const std::size_t size = byte(0) >= 0xF0U ? 4 : byte(0) >= 0xE0U ? 3 : 2;
+  if (byte(0) < 0xC2U || byte(0) > 0xF4U || text.size() < size) return 0;
+  for (std::size_t i = 1; i < size; ++i) {
+    if ((byte(i) & 0xC0U) != 0x80U) return 0;
+  }
+  // Spelled longer than need be, half of a pair, or beyond the last character.
+  const unsigned int start = (unsigned{byte(0)} << 8U) | byte(1);
+  const bool isWrong = (start >= 0xE080U && start < 0xE0A0U) ||
+                       (start >= 0xEDA0U && start < 0xEE00U) ||
+                       (start >= 0xF080U && start < 0xF090U) || start >= 0xF490U;
+  return isWrong ? 0 : size;
+}
+
+void CheckBytes(std::string_view text, Findings& findings) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const std::size_t size = CharacterSize(text.substr(at));
+    if (size == 0) break;
+    at += size;
+  }
+  if (at == text.size()) return;
+  findings.AddAt(Code::kNotUTF8, {at, 1},
+                 "this byte isn't UTF-8: names are handed out with the "
+                 "bytes that they have, and hosts take them for UTF-8",
+                 "save the file as UTF-8");
+}
+
+bool IsUTF16(std::string_view text) {
+  using namespace std::string_view_literals;
+  const std::string_view start = text.substr(0, 2);
+  return start == "\xFF\xFE"sv || start == "\xFE\xFF"sv || start == "<\0"sv || start == "\0<"sv;
+}
+
 void CheckEncoding(std::string_view text, Findings& findings) {
   const std::string_view encoding = ForeignEncoding(text);
-  const auto isForeign = [](char c) { return static_cast<unsigned char>(c) >= 0x80U; };
-  const auto first = std::find_if(text.begin(), text.end(), isForeign);
-  if (encoding.empty() || first == text.end()) return;
+  if (encoding.empty()) return CheckBytes(text, findings);
+  if (std::none_of(text.begin(), text.end(), IsForeign)) return;
   findings.AddAt(Code::kEncodingIgnored,
                  {static_cast<std::size_t>(encoding.data() - text.data()), encoding.size()},
                  "nobody looks at the encoding " + Quote(encoding) +
@@ -60,6 +98,8 @@ Examination Examine(const std::string& path, const Choice& choice) {
   const XMLView::Fault fault = document.Load(path.c_str());
   if (fault.unreadable) {
     findings.AddUnplaced(Code::kUnreadable, fault.reason, "correct the path, or what it leads to");
+  } else if (fault.reason != nullptr && IsUTF16(document.Bytes().Text())) {
+    findings.AddAt(Code::kNotWellFormed, {0, 2}, "the file is UTF-16", "save it as UTF-8");
   } else if (fault.reason != nullptr) {
     findings.AddAt(Code::kNotWellFormed, {fault.offset, 1}, fault.reason,
                    "correct the XML here; nothing else is examined until then");
