@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <set>
 
 #include "qdf/support/text.h"
 #include "tool/check/layout.h"
@@ -62,18 +63,16 @@ bool HasDocumentName(const fs::path& path) {
   return EqualNoCase(path.extension().native(), ".qdf");
 }
 
-// The documents of a folder by their names, ignoring case.
-std::vector<std::string> DocumentsIn(const std::string& folder) {
+// The documents of a folder by their names, ignoring case; the error says why there may be more.
+std::vector<std::string> DocumentsIn(const std::string& folder, std::error_code& error) {
   std::vector<std::string> paths;
-  std::error_code error;
-  for (fs::directory_iterator at(folder, error); at != fs::directory_iterator();
+  for (fs::directory_iterator at(folder, error); !error && at != fs::directory_iterator();
        at.increment(error)) {
-    if (HasDocumentName(at->path()) && !fs::is_directory(at->path(), error)) {
+    std::error_code ignored;
+    if (HasDocumentName(at->path()) && !fs::is_directory(at->path(), ignored)) {
       paths.push_back(at->path().native());
     }
   }
-  if (error) throw Failure(kWrongUsage, "can't read the folder " + Quoted(folder));
-  if (paths.empty()) throw Failure(kWrongUsage, "there is no *.qdf in " + Quoted(folder));
   const auto upper = [](std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), UpperChar);
     return text;
@@ -84,31 +83,56 @@ std::vector<std::string> DocumentsIn(const std::string& folder) {
   return paths;
 }
 
-std::vector<std::string> PathsOf(const std::vector<std::string>& names) {
-  std::vector<std::string> paths;
-  for (const std::string& name : names) {
-    if (name.empty()) throw Failure(kWrongUsage, "the name of a document is empty");
+// Each file once, however often and by whatever path it is given.
+class Examiner {
+ public:
+  explicit Examiner(const check::Choice& choice) : choice_(choice) {}
+
+  void TakeFile(const std::string& path) {
     std::error_code error;
-    if (fs::is_directory(name, error)) {
-      const std::vector<std::string> inside = DocumentsIn(name);
-      paths.insert(paths.end(), inside.begin(), inside.end());
-    } else {
-      paths.push_back(DocumentPath(name));
-    }
+    const fs::path real = fs::weakly_canonical(path, error);
+    if (!taken_.insert(error ? path : real.native()).second) return;
+    documents_.push_back({path, check::Examine(path, choice_)});
   }
-  return paths;
-}
+
+  void TakeFolder(const std::string& folder) {
+    std::error_code error;
+    const std::vector<std::string> paths = DocumentsIn(folder, error);
+    for (const std::string& path : paths) TakeFile(path);
+    if (!error && !paths.empty()) return;
+    documents_.push_back(
+        {folder,
+         check::Unreadable(error ? "this folder can't be read" : "no *.qdf is in this folder",
+                           "correct the path, or give the documents themselves")});
+  }
+
+  Documents Take() { return std::move(documents_); }
+
+ private:
+  const check::Choice& choice_;
+  std::set<std::string> taken_;
+  Documents documents_;
+};
 
 Documents ExamineAll(const Arguments& arguments) {
   const check::Choice choice{arguments.Has("--write-loss"), arguments.Has("--host")};
   const std::vector<const check::Rule*> ignored = ChooseIgnored(arguments.All("--ignore"));
-  Documents documents;
-  for (const std::string& path : PathsOf(arguments.All("DOC"))) {
-    documents.push_back({path, check::Examine(path, choice)});
-    auto& findings = documents.back().examination.findings;
-    const auto isIgnored = [&](const check::Finding& finding) {
-      return std::find(ignored.begin(), ignored.end(), finding.rule) != ignored.end();
-    };
+  Examiner examiner(choice);
+  for (const std::string& name : arguments.All("DOC")) {
+    if (name.empty()) throw Failure(kWrongUsage, "the name of a document is empty");
+    std::error_code error;
+    if (fs::is_directory(name, error)) {
+      examiner.TakeFolder(name);
+    } else {
+      examiner.TakeFile(DocumentPath(name));
+    }
+  }
+  Documents documents = examiner.Take();
+  const auto isIgnored = [&](const check::Finding& finding) {
+    return std::find(ignored.begin(), ignored.end(), finding.rule) != ignored.end();
+  };
+  for (check::Examined& document : documents) {
+    auto& findings = document.examination.findings;
     findings.erase(std::remove_if(findings.begin(), findings.end(), isIgnored), findings.end());
   }
   return documents;

@@ -165,6 +165,11 @@ TEST(CheckCommand, AnswersWithExitCodes) {
       "[attribute-unknown]\n  hint: take it out\nwarns/d.qdf: 1 warning\n";
   const std::string both =
       "OutputDrivers/Bad.QDF: no findings\nOutputDrivers/good.qdf: no findings\n";
+  const std::string nothing =
+      "empty: error: no *.qdf is in this folder [unreadable]\n  hint: correct the path, or give "
+      "the "
+      "documents themselves\nempty: 1 error\n" +
+      both;
   const UsageRow rows[] = {
       {"good.qdf", 0, "OutputDrivers/good.qdf: no findings\n", ""},
       {"warns", 0, warning.c_str(), ""},
@@ -176,7 +181,8 @@ TEST(CheckCommand, AnswersWithExitCodes) {
        "element-unknown, id-unknown\n"},
       {"warns --format xml", 2, "",
        "qdf: there is no format \"xml\"; choose from text, json, sarif\n"},
-      {"empty", 2, "", "qdf: there is no *.qdf in \"empty\"\n"},
+      {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers", 1,
+       nothing.c_str(), ""},
   };
   for (const UsageRow& row : rows) {
     EXPECT_EQ(RunTool(SplitWords(std::string("check ") + row.words), {folder.Path()}),

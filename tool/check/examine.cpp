@@ -92,12 +92,19 @@ void ExamineContent(const XMLView& document, const std::string& path, const Choi
 
 }  // namespace
 
+Examination Unreadable(std::string reason, std::string hint) {
+  Source none{std::string_view()};
+  Findings findings(none);
+  findings.AddUnplaced(Code::kUnreadable, std::move(reason), std::move(hint));
+  return {std::move(none), findings.Take()};
+}
+
 Examination Examine(const std::string& path, const Choice& choice) {
   XMLView document;
   Findings findings(document.Bytes());
   const XMLView::Fault fault = document.Load(path.c_str());
   if (fault.unreadable) {
-    findings.AddUnplaced(Code::kUnreadable, fault.reason, "correct the path, or what it leads to");
+    return Unreadable(fault.reason, "correct the path, or what it leads to");
   } else if (fault.reason != nullptr && IsUTF16(document.Bytes().Text())) {
     findings.AddAt(Code::kNotWellFormed, {0, 2}, "the file is UTF-16", "save it as UTF-8");
   } else if (fault.reason != nullptr) {

@@ -20,6 +20,9 @@ struct Examination {
   std::vector<Finding> findings;  // in the order of the file
 };
 
+// Of what can't be looked at: one finding that says why, and what to do about it.
+Examination Unreadable(std::string reason, std::string hint);
+
 // A document without an error is one that the reader takes; without a warning it drops nothing.
 Examination Examine(const std::string& path, const Choice& choice = {});
 
