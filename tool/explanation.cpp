@@ -21,7 +21,7 @@ class Explainer {
     const DocumentMembers members(document);
     const CQDFNode& root = result.IsJob() ? members.ControlTreeRoot : members.MediaSourceTreeRoot;
     Decide(root);
-    Stand(root);
+    Stand(root, members);
     FindHidden();
     if (!result.answers) FindChanges();
   }
@@ -66,7 +66,7 @@ class Explainer {
     result_.answers = !isInkAlone && !result_.IsUnlisted() && LeadsOn(*deciding_.back());
   }
 
-  void Stand(const CQDFNode& root) {
+  void Stand(const CQDFNode& root, const DocumentMembers& members) {
     std::vector<Place> places{{&root, ""}};
     for (std::size_t level = 0; level <= ChoiceCount(); ++level) {
       if (level == result_.at) {
@@ -74,10 +74,35 @@ class Explainer {
           const bool isEmpty = place.node->Children.GetSize() == 0;
           result_.standing.push_back({place.name, Options(*place.node, level), isEmpty});
         }
+        const bool isWhole = result_.IsJob() && level == result_.levels.size();
+        if (isWhole) FindLacks(places, members);
       }
       if (level < ChoiceCount()) places = Below(places, level);
     }
     if (!places.empty()) result_.found = places.front().name;
+  }
+
+  void FindLacks(const std::vector<Place>& places, const DocumentMembers& members) {
+    const struct {
+      const char* what;
+      const AStringArray& names;
+    } leaves[] = {{"profile", members.ICCProfileList}, {"dither", members.DitherNameList}};
+    for (int leaf = 0; leaf < 2; ++leaf) {
+      const AStringArray& names = leaves[leaf].names;
+      std::unordered_set<std::string> told;
+      for (std::size_t i = 0; i < places.size(); ++i) {
+        const CQDFNode& node = *places[i].node;
+        if (node.Children.GetSize() <= leaf) continue;
+        for (const std::uint32_t id : ChildAt(node, leaf)->IDs) {
+          const int index = static_cast<int>(id);
+          if (index < 0 || index >= names.GetSize()) continue;
+          std::string name = static_cast<const char*>(names.ElementAt(index));
+          if (told.insert(name).second && i > 0) {
+            result_.lacks.push_back({leaves[leaf].what, std::move(name), i});
+          }
+        }
+      }
+    }
   }
 
   std::vector<Place> Below(const std::vector<Place>& places, std::size_t level) const {

@@ -35,6 +35,14 @@ struct Explanation {
   };
   std::vector<Hidden> hidden;
 
+  // Of a whole combination: a profile or dither that only nodes behind the first hold.
+  struct Lack {
+    const char* what;
+    std::string name;
+    std::size_t node;  // the first of these
+  };
+  std::vector<Lack> lacks;
+
   // The first node for all of the choices, whether they are listed or not; empty when none is.
   std::string found;
 

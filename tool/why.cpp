@@ -30,7 +30,8 @@ class Teller {
 
   std::string Text() const {
     if (facts_.standing.empty()) return InkAlone() + TellChanges();
-    return Verdict() + TellNodes() + TellListed() + TellHidden() + TellFound() + TellChanges();
+    return Verdict() + TellNodes() + TellListed() + TellHidden() + TellLacks() + TellFound() +
+           TellChanges();
   }
 
  private:
@@ -120,6 +121,31 @@ class Teller {
            ", which comes too late.";
   }
 
+  // As in: profiles "a.icc" and "b.icc".
+  std::string Lacking(const std::string& what, std::size_t node) const {
+    Names names;
+    for (const Explanation::Lack& lack : facts_.lacks) {
+      if (lack.what == what && lack.node == node) names.push_back('"' + lack.name + '"');
+    }
+    if (names.empty()) return "";
+    return what + (names.size() > 1 ? "s " : " ") + Enumerate(names, "and");
+  }
+
+  std::string TellLacks() const {
+    std::string text;
+    for (std::size_t i = 1; i < facts_.standing.size(); ++i) {
+      Names kinds;
+      for (const char* what : {"profile", "dither"}) {
+        const std::string names = Lacking(what, i);
+        if (!names.empty()) kinds.push_back(names);
+      }
+      if (kinds.empty()) continue;
+      text.append(" The first one lacks ").append(Enumerate(kinds, "and"));
+      text.append(" of ").append(facts_.standing[i].name).append(".");
+    }
+    return text;
+  }
+
   // The profiles and the like of a job are found by a search that goes back.
   std::string TellFound() const {
     const bool isAsked = facts_.IsJob() && facts_.choices.size() == facts_.levels.size();
@@ -175,6 +201,16 @@ List HiddenRows(const Explanation& facts) {
   return rows;
 }
 
+List LackRows(const Explanation& facts) {
+  List rows;
+  for (const Explanation::Lack& lack : facts.lacks) {
+    rows.emplace_back(Object{{"what", nullptr, lack.what},
+                             {"name", nullptr, lack.name},
+                             {"node", nullptr, facts.standing[lack.node].name}});
+  }
+  return rows;
+}
+
 List ChangeRows(const Explanation& facts) {
   List rows;
   for (const Explanation::Change& change : facts.changes) {
@@ -195,6 +231,7 @@ Field TellWhy(const Explanation& facts) {
                  {"level", nullptr, isWhole ? Value() : Value(facts.levels[facts.at].key)},
                  {"nodes", nullptr, NodeRows(facts)},
                  {"hidden", nullptr, HiddenRows(facts)},
+                 {"lacks", nullptr, LackRows(facts)},
                  {"found", nullptr, facts.found.empty() ? Value() : Value(facts.found)},
                  {"changes", nullptr, ChangeRows(facts)},
                  {"text", nullptr, text}},

@@ -235,7 +235,29 @@ Media source 50 "Roll" instead of 51 would give an answer.
       {"node": "Ink[2]", "options": [{"id": 10, "displayName": "Plain", "internalName": "pl"}]},
       {"node": "Ink[3]", "options": [{"id": 13, "displayName": "Glossy", "internalName": "gl2"}]}],
     "hidden": [{"id": 13, "displayName": "Glossy", "internalName": "gl2", "node": "Ink[3]"}],
-    "found": "Ink[3]/Media[1]", "changes": []})"));
+    "lacks": [], "lacks": [], "found": "Ink[3]/Media[1]", "changes": []})"));
+}
+
+TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
+  const TempFolder folder;
+  std::string text = kSmallDocument;
+  const std::string again =
+      "<ColorMode ID=\"40\"><ICCProfile>b.icc</ICCProfile>"
+      "<ICCProfile>late.icc</ICCProfile><DitherList SupportAll=\"0\">"
+      "<Dither Name=\"Fine\"/><Dither Name=\"Late\"/></DitherList></ColorMode>";
+  text.insert(text.find("</Resolution>"), again);
+  folder.Write("twice.qdf", text);
+  const nlohmann::json why =
+      RunJson(SplitWords("narrow twice.qdf --ink 1 --defaults --why --color-mode 40"),
+              {folder.Path()})["job"];
+  const std::string first = "Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1]";
+  const std::string later = "Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[2]";
+  EXPECT_EQ(why["text"], "The combination gives an answer. It is found in " + first + "; " + later +
+                             ", which would fit too, is never asked. The first one lacks profile "
+                             "\"late.icc\" and dither \"Late\" of " +
+                             later + '.');
+  EXPECT_EQ(why["lacks"][1],
+            (nlohmann::json{{"what", "dither"}, {"name", "Late"}, {"node", later}}));
 }
 
 // All single changes of a choice of three are tried.
