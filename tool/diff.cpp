@@ -47,8 +47,9 @@ const Command kDiffCommand = {
     "diff",
     "Compare two documents by what they mean",
     "Entries are compared by internal name, or else by display name, and combinations by their\n"
-    "entries; neither ids nor order count, but ids that differ are told. The exit code is 0 when\n"
-    "the documents mean the same, 1 when they don't, 2 when they can't be compared.",
+    "entries. Neither ids nor the order of entries count, unless another one is preselected by\n"
+    "it, but ids that differ are told. The order of profiles and dithers counts. The exit code\n"
+    "is 0 when the documents mean the same, 1 when they don't, 2 when they can't be compared.",
     "qdf diff old/plot36.qdf plot36.qdf",
     kOptions,
     Diff,

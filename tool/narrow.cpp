@@ -262,7 +262,8 @@ const Command kNarrowCommand = {
     "Narrow a print job step by step",
     "Shows what may follow the choices made so far: an ink, then a medium and so on down to a\n"
     "colour mode, and below that the profiles and dithers; or a media source, then a size, and\n"
-    "below that the margins. X is an id, a display name or an internal name.",
+    "below that the margins. X is an id, a display name or an internal name. With --why nodes are\n"
+    "counted as qdf tree shows them: elements that vanish, of which qdf check tells, are none.",
     "qdf narrow plot36.qdf --ink 1 --media Glossy\n"
     "  qdf narrow plot36.qdf --defaults\n"
     "  qdf narrow plot36.qdf --source 1 --size A4 --why",
