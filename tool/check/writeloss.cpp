@@ -21,8 +21,19 @@ bool IsGiven(const Element& element, const char* attribute) {
   return *element.Find(attribute).Value() != '\0';
 }
 
-bool NamesDefault(const Element& element, const char* attribute) {
-  return ReadInt(element.Find(attribute).Value()) != 0;
+// Whether another entry is preselected without the default: the first of the list, or of those of
+// its entries that are listed.
+bool IsLost(const Element& element, const char* attribute, const KeptList& list,
+            const ADWordArray* listed) {
+  const int id = ReadInt(element.Find(attribute).Value());
+  const auto isListed = [&](int each) {
+    return listed == nullptr || std::find(listed->begin(), listed->end(),
+                                          static_cast<std::uint32_t>(each)) != listed->end();
+  };
+  if (list.byID.find(id) == list.byID.end() || !isListed(id)) return false;
+  const auto first = std::find_if(list.entries.begin(), list.entries.end(),
+                                  [&](const KeptEntry& entry) { return isListed(entry.id); });
+  return first->id != id;
 }
 
 class WriteLossRules {
@@ -56,7 +67,7 @@ class WriteLossRules {
 
   void ExamineControl(const ElementNode& control) {
     if (control.children.empty()) return;
-    if (NamesDefault(control.element, "DefaultInk")) {
+    if (IsLost(control.element, "DefaultInk", lists_[kInks], nullptr)) {
       findings_.Add(Code::kWriteDefaultInk, control.element,
                     control.element.Find("DefaultInk").NamePlace(),
                     "a write loses DefaultInk: the first ink of InkList is preselected then",
@@ -233,7 +244,8 @@ class WriteLossRules {
     }
     if (size.children.empty()) return;
     ExamineIDList(size.children.front(), "MarginIDList");
-    if (!NamesDefault(size.element, "DefaultMarginID")) return;
+    const ADWordArray& listed = size.children.front().ids;
+    if (!IsLost(size.element, "DefaultMarginID", lists_[kMargins], &listed)) return;
     findings_.Add(Code::kWriteDefaultMargin, size.element,
                   size.element.Find("DefaultMarginID").NamePlace(),
                   "a write loses DefaultMarginID: the first of the margin sets is preselected then",
