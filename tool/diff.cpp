@@ -1,5 +1,6 @@
 // qdf diff: two documents compared by what they mean.
 
+#include "qdf/support/filebytes.h"
 #include "tool/command.h"
 #include "tool/compare/changes.h"
 #include "tool/load.h"
@@ -20,12 +21,22 @@ constexpr const char* Tell(Difference difference) {
   return "not known";
 }
 
+bool HaveSameBytes(const Document& first, const Document& second) {
+  FileBytes a;
+  FileBytes b;
+  return ReadFileBytes(first.path.c_str(), a) == nullptr &&
+         ReadFileBytes(second.path.c_str(), b) == nullptr && a.Text() == b.Text();
+}
+
 Answer Diff(const Arguments& arguments) {
   const Document first = LoadDocument(arguments.Get("A"));
   const Document second = LoadDocument(arguments.Get("B"));
   Object changes;
-  const Difference difference =
+  Difference difference =
       AddChanges(Comparison(*first.content, *second.content), Shown::kChanges, changes);
+  if (difference == Difference::kUnknown && HaveSameBytes(first, second)) {
+    difference = Difference::kNone;
+  }
   const bool isKnown = difference != Difference::kUnknown;
   const bool isEqual = difference == Difference::kNone || difference == Difference::kIDs;
   Object report{{"first", "First", first.path},

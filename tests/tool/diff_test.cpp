@@ -264,7 +264,12 @@ TEST_F(Diff, SaysWithCode2WhatCannotBeCompared) {
                                          .Control = Control(">1[" + all + ">1[" + all + "]]")}
                                 .Text();
   folder_.Write("a.qdf", large);
-  EXPECT_EQ(With(large), (Outcome{2, R"(First:         a.qdf
+  EXPECT_EQ(With(large), (Outcome{0, R"(First:         a.qdf
+Second:        b.qdf
+Result:        equal in meaning
+Combinations:  too many to compare
+)"}));
+  EXPECT_EQ(With(large + '\n'), (Outcome{2, R"(First:         a.qdf
 Second:        b.qdf
 Result:        not known
 Combinations:  too many to compare
