@@ -1,51 +1,18 @@
 #include "qdf/support/xmlwellformed.h"
 
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <vector>
 
 #include "qdf/support/hashindex.h"
 #include "qdf/support/text.h"
+#include "qdf/support/xmlcharacters.h"
 #include "qdf/support/xmldeclaration.h"
 
 namespace {
 
-enum : std::uint8_t {
-  kNameStart = 1,
-  kName = 2,
-  kSpace = 4,
-  kControl = 8,
-  kTextStop = 16,   // where plain text needs a closer look
-  kValueStop = 32,  // where an attribute value does
-};
-
-// Bytes from 128 on are parts of characters that names may hold: which ones isn't tested, since the
-// encoding of a document isn't looked at.
-constexpr std::array<std::uint8_t, 256> MakeClasses() {
-  std::array<std::uint8_t, 256> classes{};
-  for (unsigned int c = 0; c < 256; ++c) {
-    const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c >= 128;
-    const bool digit = c >= '0' && c <= '9';
-    const bool space = c == ' ' || c == '\t' || c == '\n' || c == '\r';
-    std::uint8_t bits = 0;
-    if (letter || c == '_' || c == ':') bits |= kNameStart | kName;
-    if (digit || c == '-' || c == '.') bits |= kName;
-    if (space) bits |= kSpace;
-    if (c < ' ' && !space) bits |= kControl | kTextStop | kValueStop;
-    if (c == '<' || c == '&' || c == ']') bits |= kTextStop;
-    if (c == '<' || c == '&' || c == '"' || c == '\'') bits |= kValueStop;
-    classes[c] = bits;
-  }
-  return classes;
-}
-
-constexpr std::array<std::uint8_t, 256> kClasses = MakeClasses();
-
 constexpr const char* kControlReason = "there is a control character";
 constexpr const char* kTextBesideRoot = "there is text beside the root element";
-
-bool Is(char c, std::uint8_t bits) { return (kClasses[static_cast<unsigned char>(c)] & bits) != 0; }
 
 // The NUL behind the text is a control character: it ends every loop, so that none has to look for
 // the end of the text.
@@ -77,6 +44,7 @@ class Scanner {
   struct OpenElement {
     const char* begin;
     std::string_view name;
+    bool hasChild = false;
   };
 
   bool Fail(const char* reason, const char* place) {
@@ -94,12 +62,12 @@ class Scanner {
   // The first place from here on that is, or is not, of these classes.
   const char* FirstOf(std::uint8_t bits) const {
     const char* place = at_;
-    while (!Is(*place, bits)) ++place;
+    while (!IsXML(*place, bits)) ++place;
     return place;
   }
   const char* FirstNotOf(std::uint8_t bits) const {
     const char* place = at_;
-    while (Is(*place, bits)) ++place;
+    while (IsXML(*place, bits)) ++place;
     return place;
   }
 
@@ -112,7 +80,7 @@ class Scanner {
   // Documents repeat themselves: indentation and names are mostly those of the line before. Trying
   // the former text first takes one comparison instead of a look at each byte.
   bool SkipRepeated(std::string_view former, std::uint8_t goesOn) {
-    if (former.empty() || !StartsWith(former) || Is(at_[former.size()], goesOn)) return false;
+    if (former.empty() || !StartsWith(former) || IsXML(at_[former.size()], goesOn)) return false;
     at_ += former.size();
     return true;
   }
@@ -122,6 +90,25 @@ class Scanner {
     const char* begin = at_;
     SkipSpace();
     layout_ = {begin, static_cast<std::size_t>(at_ - begin)};
+  }
+
+  // Whole lists repeat themselves too: an element is as well-formed as the bytes that stood there
+  // before. Elements without children aren't worth the comparison.
+  bool SkipRepeatedElement() {
+    if (open_.size() >= formerElements_.size()) return false;
+    const std::string_view former = formerElements_[open_.size()];
+    if (former.empty() || !StartsWith(former)) return false;
+    at_ += former.size();
+    return true;
+  }
+
+  // Only what isn't long, since each element within it may be compared as well.
+  void Remember(const OpenElement& element) {
+    constexpr std::size_t kLongest = 4096;
+    const auto size = static_cast<std::size_t>(at_ - element.begin);
+    if (!element.hasChild || size > kLongest) return;
+    if (formerElements_.size() <= open_.size()) formerElements_.resize(open_.size() + 1);
+    formerElements_[open_.size()] = {element.begin, size};
   }
 
   bool Expect(char c, const char* reason) {
@@ -136,7 +123,7 @@ class Scanner {
     const std::size_t length = Rest().find(closing);
     if (length == std::string_view::npos) return Fail(openReason, begin);
     const char* last = begin + length;
-    while (at_ != last && !Is(*at_, kControl)) ++at_;
+    while (at_ != last && !IsXML(*at_, kControl)) ++at_;
     if (at_ != last) return Fail(kControlReason);
     at_ += closing.size();
     return true;
@@ -145,7 +132,7 @@ class Scanner {
   // `name` holds a former name on entry and the new one on return.
   bool Name(std::string_view& name) {
     if (SkipRepeated(name, kName)) return true;
-    if (!Is(*at_, kNameStart)) return Fail("a name is missing or begins with a wrong character");
+    if (!IsXML(*at_, kNameStart)) return Fail("a name is missing or begins with a wrong character");
     const char* begin = at_;
     at_ = FirstNotOf(kName);
     name = {begin, static_cast<std::size_t>(at_ - begin)};
@@ -244,7 +231,7 @@ class Scanner {
     if (!Name(target)) return;
     if (EqualNoCase(target, "xml") && (begin != start_ || target != "xml")) {
       Fail("an XML declaration stands elsewhere than at the start", begin);
-    } else if (!Is(*at_, kSpace) && !StartsWith("?>")) {
+    } else if (!IsXML(*at_, kSpace) && !StartsWith("?>")) {
       Fail("a name holds a wrong character");
     } else {
       const char* content = at_;
@@ -275,10 +262,10 @@ class Scanner {
         if (!SkipPast("-->", kOpen)) return;
       } else if (StartsWith("<?")) {
         if (!SkipPast("?>", kOpen)) return;
-      } else if (*at_ == '<' && (at_[1] != '!' || !Is(at_[2], kNameStart))) {
+      } else if (*at_ == '<' && (at_[1] != '!' || !IsXML(at_[2], kNameStart))) {
         Fail("\"<\" begins nothing that a document type holds");
         return;
-      } else if (Is(*at_, kControl)) {
+      } else if (IsXML(*at_, kControl)) {
         Fail(kControlReason);
         return;
       } else {
@@ -295,14 +282,16 @@ class Scanner {
     const char* begin = at_;
     at_ += 2;
     const std::string_view name = open_.empty() ? std::string_view() : open_.back().name;
-    if (name.empty() || !StartsWith(name) || Is(at_[name.size()], kName)) {
+    if (name.empty() || !StartsWith(name) || IsXML(at_[name.size()], kName)) {
       Fail("this end tag does not match its start tag", begin);
       return;
     }
     at_ += name.size();
-    open_.pop_back();
     SkipSpace();
-    Expect('>', "this end tag is not closed");
+    if (!Expect('>', "this end tag is not closed")) return;
+    const OpenElement closed = open_.back();
+    open_.pop_back();
+    Remember(closed);
   }
 
   void StartTag() {
@@ -312,6 +301,8 @@ class Scanner {
       return;
     }
     rootSeen_ = true;
+    if (!open_.empty()) open_.back().hasChild = true;
+    if (SkipRepeatedElement()) return;
     ++at_;
     if (!Name(name_)) return;
     const std::string_view name = name_;
@@ -319,7 +310,7 @@ class Scanner {
     const bool empty = *at_ == '/';
     if (empty) ++at_;
     if (!Expect('>', "this tag holds a wrong character or is not closed")) return;
-    if (!empty) open_.push_back({begin, name});
+    if (!empty) open_.push_back({begin, name, false});
   }
 
   bool Attributes() {
@@ -371,7 +362,7 @@ class Scanner {
         if (!Reference()) return false;
       } else if (*at_ == '<') {
         return Fail("\"<\" stands in an attribute value");
-      } else if (Is(*at_, kControl)) {
+      } else if (IsXML(*at_, kControl)) {
         return Fail(kControlReason);
       } else {
         ++at_;  // the other kind of quote
@@ -389,10 +380,11 @@ class Scanner {
   bool rootSeen_ = false;
   bool doctypeSeen_ = false;
   std::vector<OpenElement> open_;
-  std::string_view layout_;                   // the last white space between tags
-  std::string_view name_;                     // of the last element
-  std::vector<std::string_view> attributes_;  // of the present tag, and behind them former ones
-  HashIndex index_;                           // of attributes_, when they are many
+  std::vector<std::string_view> formerElements_;  // the last with children at each depth
+  std::string_view layout_;                       // the last white space between tags
+  std::string_view name_;                         // of the last element
+  std::vector<std::string_view> attributes_;      // of the present tag, and behind them former ones
+  HashIndex index_;                               // of attributes_, when they are many
 };
 
 }  // namespace
