@@ -139,7 +139,7 @@ inline void CheckDocument(std::string_view text) {
     const auto document = LoadFile(static_cast<const char*>(file.Path()));
     if (i == 0 && document == nullptr) return;
     Require(document != nullptr, "a written document loads");
-    if (i == 0) Questions(*document).AskAll();
+    if (i == 0) Questions(*LoadFile(static_cast<const char*>(file.Path())), *document).AskAll();
     const Kept kept(*document);
     if (i > 0) RequireEqual(former, kept.Text(), "what a write keeps");
     former = kept.Text();

@@ -14,7 +14,8 @@
 
 class Questions {
  public:
-  explicit Questions(APMQDF& document) : d_(document), m_(document) {}
+  // The second is the same document. It is read whole, while the first reads what it is asked for.
+  Questions(APMQDF& document, APMQDF& whole) : d_(document), m_(whole) {}
 
   void AskAll() {
     std::vector<InkTypeInfo> inks;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "qdf/control/deferreddithers.h"
 #include "qdf/control/ditherlist.h"
 #include "qdf/control/levels.h"
 #include "qdf/control/nametable.h"
@@ -30,12 +31,13 @@ class ControlReader {
  public:
   ControlReader(AXMLTree& tree, const std::array<LevelIDs, kLevels>& ids, AStringArray& profileList,
                 AStringArray& oemInfoList, AStringArray& ditherNameList,
-                APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks)
+                APtrArray& ditherResolutionList, DeferredDithers* deferred)
       : tree_(tree),
         ids_(ids),
         profiles_(profileList, NameCase::Ignored),
         oemInfos_(oemInfoList, NameCase::Ignored),
-        ditherLists_(tree, ditherNameList, ditherResolutionList, blocks) {}
+        dithers_(tree, ditherNameList, ditherResolutionList, nullptr),
+        deferredDithers_(deferred) {}
 
   void ReadLevel(std::size_t level, const AXMLTreeNode& parentElement, CQDFNode& parent) {
     const Level& form = kLevelForms[level];
@@ -56,20 +58,12 @@ class ControlReader {
   void ReadColorMode(const AXMLTreeNode& element, CQDFNode& node) {
     node.Default = -1;
     ReadPrinterSpecificSetting(element, node);
-    ReadProfiles(element, *AddLeaf(node));
-    CQDFNode* ditherNode = AddLeaf(node);
-    CQDFNode* ripResolutionNode = AddChildNode(node);
-    AXMLTreeNode ditherList;
-    // Without a list the default dither is dropped.
-    if (tree_.getChild("DitherList", element, ditherList) == 0) return;
-    ditherLists_.Read(*ditherNode, *ripResolutionNode, ditherList,
-                      tree_.attributeText(element, "DefaultDither"));
-  }
-
-  static CQDFNode* AddLeaf(CQDFNode& node) {
-    CQDFNode* leaf = AddChildNode(node);
-    leaf->Default = -1;
-    return leaf;
+    ReadProfiles(element, *AddChildNode(node));
+    if (deferredDithers_ != nullptr) {
+      deferredDithers_->Put(node, element);
+    } else {
+      dithers_.AddLeaves(node, element);
+    }
   }
 
   void ReadPrinterSpecificSetting(const AXMLTreeNode& element, CQDFNode& node) {
@@ -81,6 +75,7 @@ class ControlReader {
 
   // The default need not be among the profiles: it enters the list of names all the same.
   void ReadProfiles(const AXMLTreeNode& element, CQDFNode& profileNode) {
+    profileNode.Default = -1;
     InternDefaultStringIfGiven(&profileNode, tree_.attributeText(element, "DefaultICCProfile"),
                                profiles_);
     AString joined;
@@ -94,7 +89,8 @@ class ControlReader {
   const std::array<LevelIDs, kLevels>& ids_;
   NameTable profiles_;
   NameTable oemInfos_;
-  DitherListReader ditherLists_;
+  DitherListReader dithers_;
+  DeferredDithers* deferredDithers_;
 };
 
 }  // namespace
@@ -103,7 +99,7 @@ int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaLi
                           APtrArray& printModeList, APtrArray& resolutionList,
                           APtrArray& colorModeList, CQDFNode& root, AStringArray& profileList,
                           AStringArray& oemInfoList, AStringArray& ditherNameList,
-                          APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks) {
+                          APtrArray& ditherResolutionList, DeferredDithers* deferredDithers) {
   if (tree == nullptr) return 0;
   AXMLTreeNode section;
   if (tree->getItem("Control_Definition", section) == 0) return 1;
@@ -112,7 +108,7 @@ int ReadControlDefinition(AXMLTree* tree, APtrArray& inkList, APtrArray& mediaLi
       IDsOf<PrintModeInfo>(printModeList), IDsOf<ResolutionInfo>(resolutionList),
       IDsOf<ColorModeInfo>(colorModeList)};
   ControlReader reader(*tree, ids, profileList, oemInfoList, ditherNameList, ditherResolutionList,
-                       blocks);
+                       deferredDithers);
   root.Default = ReadDefault(*tree, section, "DefaultInk");
   reader.ReadLevel(0, section, root);
   return 1;

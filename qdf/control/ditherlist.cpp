@@ -85,6 +85,16 @@ DitherListReader::DitherListReader(const AXMLTree& tree, AStringArray& ditherNam
       records_(ditherResolutionList),
       blocks_(blocks) {}
 
+void DitherListReader::AddLeaves(CQDFNode& colorMode, const AXMLTreeNode& element) {
+  CQDFNode* ditherNode = AddChildNode(colorMode);
+  ditherNode->Default = -1;
+  CQDFNode* ripResolutionNode = AddChildNode(colorMode);
+  AXMLTreeNode ditherList;
+  // Without a list the default dither is dropped.
+  if (tree_.getChild("DitherList", element, ditherList) == 0) return;
+  Read(*ditherNode, *ripResolutionNode, ditherList, tree_.attributeText(element, "DefaultDither"));
+}
+
 void DitherListReader::Read(CQDFNode& ditherNode, CQDFNode& ripResolutionNode,
                             const AXMLTreeNode& ditherList, std::string_view defaultDither) {
   InternDefaultStringExact(&ditherNode, names_, defaultDither);

@@ -49,9 +49,9 @@ class DitherListReader {
   DitherListReader(const AXMLTree& tree, AStringArray& ditherNameList,
                    APtrArray& ditherResolutionList, DitherResolutionBlocks* blocks);
 
-  // Into new leaves, of which there are no records yet.
-  void Read(CQDFNode& ditherNode, CQDFNode& ripResolutionNode, const AXMLTreeNode& ditherList,
-            std::string_view defaultDither);
+  // Adds the DitherNode and the RipResolutionNode to the node of a ColorMode element and fills
+  // them.
+  void AddLeaves(CQDFNode& colorMode, const AXMLTreeNode& element);
 
   // Into leaves that may have been filled before.
   void ReadOnto(CQDFNode& ditherNode, CQDFNode& ripResolutionNode, const AXMLTreeNode& ditherList,
@@ -71,6 +71,9 @@ class DitherListReader {
   };
   class OwnRecords;
 
+  // Into new leaves, of which there are no records yet.
+  void Read(CQDFNode& ditherNode, CQDFNode& ripResolutionNode, const AXMLTreeNode& ditherList,
+            std::string_view defaultDither);
   void ReadTexts(const AXMLTreeNode& ditherList);
   void AddDithers(CQDFNode& ditherNode, OwnRecords& records);
   void RepeatFormer(CQDFNode& ditherNode, CQDFNode& ripResolutionNode);

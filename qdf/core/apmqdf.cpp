@@ -2,8 +2,9 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 
-#include "qdf/control/ditherlist.h"
+#include "qdf/control/deferreddithers.h"
 #include "qdf/control/readers.h"
 #include "qdf/core/childindexes.h"
 #include "qdf/core/guarded.h"
@@ -46,8 +47,11 @@ APMQDF::~APMQDF() {
 int APMQDF::LoadQDFFile(AFilePath& path) {
   return Guarded(0, [&] {
     // The name of the root is only a placeholder: the file's root takes its place.
-    AXMLTree tree("RootElement");
-    return tree.loadFromFile(path, 1) != 0 ? ParseFromXMLTree(&tree) : 0;
+    auto tree = std::make_unique<AXMLTree>("RootElement");
+    if (tree->loadFromFile(path, 1) == 0) return 0;
+    AXMLTree* document = tree.get();
+    ControlDithers().BeginTree(std::move(tree));
+    return ParseFromXMLTree(document);
   });
 }
 
@@ -66,10 +70,11 @@ int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
     ReadMarginInfoList(tree, MarginInfoList);
     ReadMediaSourceList(tree, MediaSourceList);
     ControlIndexes.reset();
-    if (Blocks == nullptr) Blocks = std::make_unique<DitherResolutionBlocks>();
+    DeferredDithers& dithers = ControlDithers();
+    dithers.BeginTree(*tree);
     ReadControlDefinition(tree, InkList, MediaList, PrintModeList, ResolutionList, ColorModeList,
                           ControlTreeRoot, ICCProfileList, OEMInfoList, DitherNameList,
-                          DitherResolutionList, Blocks.get());
+                          DitherResolutionList, &dithers);
     if (MediaSourceList.GetSize() > 0) {
       ReadMediaSourceControl(tree, MediaSourceList, MediaSizeList, MarginInfoList,
                              MediaSourceTreeRoot);
@@ -77,6 +82,17 @@ int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
     PMGetMediaLimits(tree);
     return 1;
   });
+}
+
+DeferredDithers& APMQDF::ControlDithers() {
+  if (Dithers == nullptr) {
+    Dithers = std::make_unique<DeferredDithers>(DitherNameList, DitherResolutionList);
+  }
+  return *Dithers;
+}
+
+void APMQDF::ReadDeferredDithers() {
+  if (Dithers != nullptr) Dithers->ReadAll();
 }
 
 int APMQDF::PMGetMediaLimits(AXMLTree* tree) {

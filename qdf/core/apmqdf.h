@@ -21,7 +21,7 @@
 class AXMLTree;
 class AXMLTreeNode;
 class ChildIndexes;
-class DitherResolutionBlocks;
+class DeferredDithers;
 
 // Hosts call through the table of virtual operations: the order of the virtual members is an
 // interface and never changes.
@@ -164,6 +164,7 @@ class APMQDF_EXPORT APMQDF {
   bool PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target);
 
  private:
+  friend struct DocumentLists;
   friend struct DocumentMembers;
 
   // Reads the limits and the minimum margins; 1 when the document has at least one of them.
@@ -172,6 +173,11 @@ class APMQDF_EXPORT APMQDF {
   AString MakeStringUponIDArray(ADWordArray& ids);
 
   const CQDFNode* FindControlPath(std::initializer_list<int> ids);
+
+  // To be called by whoever looks at the leaves of the control tree without FindColorModeNode,
+  // which reads those of the node that it answers.
+  void ReadDeferredDithers();
+  DeferredDithers& ControlDithers();
 
   void PMWriteDefinitionPart(AXMLTree& tree, const AXMLTreeNode& definition);
   void PMWriteMediaSourceDef(AXMLTree& tree, const AXMLTreeNode& definition);
@@ -215,8 +221,8 @@ class APMQDF_EXPORT APMQDF {
   double MediaSizeLimits[4] = {};
   double MinimumMargins[4] = {};
 
-  // Owns the records of DitherResolutionList.
-  std::unique_ptr<DitherResolutionBlocks> Blocks;
+  // Of the control tree; owns the records of DitherResolutionList.
+  std::unique_ptr<DeferredDithers> Dithers;
   // Of the control tree, from the first search in it until it changes.
   std::unique_ptr<ChildIndexes> ControlIndexes;
 

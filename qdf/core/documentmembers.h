@@ -1,12 +1,13 @@
 #pragma once
 
-// The one door to what an APMQDF holds, for the library's own operations outside the class, for the
-// tool, which shows the trees, and for the tests. No host includes it.
+// The doors to what an APMQDF holds, for the library's own operations outside the class, for the
+// tool, which shows the trees, and for the tests. No host includes them.
 
 #include "qdf/core/apmqdf.h"
 
-struct DocumentMembers {
-  explicit DocumentMembers(APMQDF& document)
+// Without the control tree.
+struct DocumentLists {
+  explicit DocumentLists(APMQDF& document)
       : InkList(document.InkList),
         MediaList(document.MediaList),
         PrintModeList(document.PrintModeList),
@@ -15,11 +16,6 @@ struct DocumentMembers {
         MediaSourceList(document.MediaSourceList),
         MarginInfoList(document.MarginInfoList),
         MediaSizeList(document.MediaSizeList),
-        OEMInfoList(document.OEMInfoList),
-        ICCProfileList(document.ICCProfileList),
-        DitherNameList(document.DitherNameList),
-        DitherResolutionList(document.DitherResolutionList),
-        ControlTreeRoot(document.ControlTreeRoot),
         ProductType(document.ProductType),
         TranslationTable(document.TranslationTable),
         CustomMediaFile(document.CustomMediaFile),
@@ -34,14 +30,28 @@ struct DocumentMembers {
   APtrArray& MediaSourceList;
   APtrArray& MarginInfoList;
   APtrArray& MediaSizeList;
-  AStringArray& OEMInfoList;
-  AStringArray& ICCProfileList;
-  AStringArray& DitherNameList;
-  APtrArray& DitherResolutionList;
-  CQDFNode& ControlTreeRoot;
   AString& ProductType;
   AString& TranslationTable;
   AString& CustomMediaFile;
   CQDFNode& MediaSourceTreeRoot;
   bool& LackedMemory;
+};
+
+// All of it. Making one reads what of the control tree was put off, which may throw bad_alloc.
+struct DocumentMembers : DocumentLists {
+  explicit DocumentMembers(APMQDF& document)
+      : DocumentLists(document),
+        OEMInfoList(document.OEMInfoList),
+        ICCProfileList(document.ICCProfileList),
+        DitherNameList(document.DitherNameList),
+        DitherResolutionList(document.DitherResolutionList),
+        ControlTreeRoot(document.ControlTreeRoot) {
+    document.ReadDeferredDithers();
+  }
+
+  AStringArray& OEMInfoList;
+  AStringArray& ICCProfileList;
+  AStringArray& DitherNameList;
+  APtrArray& DitherResolutionList;
+  CQDFNode& ControlTreeRoot;
 };

@@ -8,7 +8,7 @@
 namespace {
 
 int TakeOver(APMQDF& document, APMQDF& previous) {
-  DocumentMembers former(previous);
+  DocumentLists former(previous);
   double limit[4];
   double margin[4];
   previous.GetMediaSizeLimits(limit[0], limit[1], limit[2], limit[3]);
@@ -21,7 +21,7 @@ int TakeOver(APMQDF& document, APMQDF& previous) {
 
 // Why a derivation has failed: the first list that it could not fill tells, unless memory ran out.
 UpdateFault FaultOf(APMQDF& document) {
-  const DocumentMembers derived(document);
+  const DocumentLists derived(document);
   if (derived.LackedMemory) return UpdateFault::NoMemory;
   if (derived.InkList.GetSize() == 0) return UpdateFault::NoInk;
   if (derived.MediaList.GetSize() == 0) return UpdateFault::NoMedia;
@@ -39,7 +39,7 @@ UpdateFault Derive(APMQDF& previous, const AFilePath& resourceFolder, UpdatedDoc
   }
   auto document = std::make_unique<APMQDF>();
   if (TakeOver(*document, previous) == 0) return UpdateFault::NoMemory;
-  DocumentMembers former(previous);
+  DocumentLists former(previous);
   if (document->LoadHPResourceInfo(resources, former.InkList, former.MediaList) == 0) {
     return FaultOf(*document);
   }

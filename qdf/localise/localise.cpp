@@ -73,7 +73,7 @@ void TranslateColorants(const APtrArray& colorModes, const Translations& transla
 }
 
 void TranslateDocument(APMQDF& document, const Translations& translations) {
-  const DocumentMembers members(document);
+  const DocumentLists members(document);
   TranslateList<InkTypeInfo>(members.InkList, translations);
   TranslateList<MediaTypeInfo>(members.MediaList, translations);
   TranslateList<PrintModeInfo>(members.PrintModeList, translations);

@@ -1,7 +1,7 @@
 // What belongs to one combination of ink, media, print mode, resolution and colour mode: its
 // printer specific text, profiles, dithers and RIP resolutions.
 
-#include "qdf/control/ditherlist.h"
+#include "qdf/control/deferreddithers.h"
 #include "qdf/core/guarded.h"
 #include "qdf/query/iccprofile.h"
 #include "qdf/query/treewalk.h"
@@ -60,6 +60,7 @@ int APMQDF::FindColorModeNode(const int& ink, const int& media, const int& print
   return Guarded(0, [&] {
     const CQDFNode* found = FindControlPath({ink, media, printMode, resolution, colorMode});
     if (found == nullptr) return 0;
+    if (Dithers != nullptr) Dithers->Read(*found);
     node = const_cast<CQDFNode*>(found);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     return 1;
   });

@@ -90,6 +90,7 @@ void APMQDF::PMWriteControlPart(AXMLTree& tree) {
   if (ControlTreeRoot.Children.GetSize() == 0) return;
   const CQDFNode* ink = ChildAt(ControlTreeRoot, 0);
   if (ink == nullptr) return;
+  ReadDeferredDithers();
   Element section{tree, {}};
   if (tree.addItem(section.node, "Control_Definition", "") == 0) return;
   section.Add("Ink", [&](const Element& element) {

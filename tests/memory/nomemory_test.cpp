@@ -119,6 +119,18 @@ TEST_F(NoMemory, FirstQuestionsLeaveLaterOnesRight) {
     EXPECT_EQ(ask(), 1);
     EXPECT_EQ(IDs(modes), "1");
   });
+  const std::string tree = Dump(DocumentMembers(*Example()).ControlTreeRoot);
+  WithEveryAllocation("first question for dithers", [&](Attempt& attempt) {
+    const auto document = Example();
+    std::vector<AString> dithers;
+    AString preselected;
+    const auto ask = [&] { return document->GetDitherList(1, 1, 1, 1, 1, dithers, preselected); };
+    EXPECT_TRUE(attempt.FailsWhenRefused(ask));
+    dithers.clear();
+    EXPECT_EQ(ask(), 1);
+    EXPECT_EQ(Dump(dithers), "Adaptive");
+    EXPECT_EQ(Dump(DocumentMembers(*document).ControlTreeRoot), tree);
+  });
 }
 
 TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
@@ -156,11 +168,11 @@ TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
 }
 
 TEST_F(NoMemory, WritesGiveTheFormerFileOrTheNewOne) {
-  const auto document = Example();
   AFilePath path(Path("written.qdf").c_str());
-  document->PMWriteQDF(path);
+  Example()->PMWriteQDF(path);
   const std::string whole = ReadFile(Path("written.qdf"));
   WithEveryAllocation("write", [&](Attempt& attempt) {
+    const auto document = Example();
     WriteFile(Path("written.qdf"), "former");
     attempt.Try([&] { document->PMWriteQDF(path); });
     EXPECT_EQ(ReadFile(Path("written.qdf")), attempt.Refused() ? "former" : whole);

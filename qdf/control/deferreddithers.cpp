@@ -1,0 +1,79 @@
+#include "qdf/control/deferreddithers.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "qdf/support/hashmix.h"
+
+namespace {
+
+std::uint32_t HashOf(const CQDFNode& node) {
+  return static_cast<std::uint32_t>(MixHash(reinterpret_cast<std::uintptr_t>(&node)));
+}
+
+}  // namespace
+
+DeferredDithers::DeferredDithers(AStringArray& ditherNameList, APtrArray& ditherResolutionList)
+    : names_(ditherNameList), records_(ditherResolutionList) {}
+
+void DeferredDithers::BeginTree(const AXMLTree& tree) {
+  if (&tree == ownTree_.get()) return;
+  ReadAll();
+  reader_.emplace(tree, names_, records_, &blocks_);
+}
+
+void DeferredDithers::BeginTree(std::unique_ptr<AXMLTree> tree) {
+  BeginTree(*tree);
+  ownTree_ = std::move(tree);
+}
+
+void DeferredDithers::Put(CQDFNode& colorMode, const AXMLTreeNode& element) {
+  if (ownTree_ != nullptr) {
+    entries_.push_back({&colorMode, element});
+  } else {
+    Read(colorMode, element);
+  }
+}
+
+void DeferredDithers::Read(const CQDFNode& colorMode) {
+  if (entries_.empty()) return;
+  if (!index_) {
+    HashIndex index;
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+      const CQDFNode* node = entries_[i].colorMode;
+      if (node != nullptr) index.Add(HashOf(*node), static_cast<int>(i));
+    }
+    index_.emplace(std::move(index));
+  }
+  const auto entryAt = [&](int i) -> Entry& { return entries_[static_cast<std::size_t>(i)]; };
+  const auto isOfNode = [&](int i) { return entryAt(i).colorMode == &colorMode; };
+  const int found = index_->Find(HashOf(colorMode), isOfNode);
+  if (found >= 0) ReadNow(entryAt(found));
+}
+
+void DeferredDithers::ReadAll() {
+  for (Entry& entry : entries_) ReadNow(entry);
+  entries_.clear();
+  index_.reset();
+  reader_.reset();
+  ownTree_.reset();
+}
+
+void DeferredDithers::ReadNow(Entry& entry) {
+  if (entry.colorMode == nullptr) return;
+  Read(*entry.colorMode, entry.element);
+  entry.colorMode = nullptr;
+}
+
+void DeferredDithers::Read(CQDFNode& colorMode, const AXMLTreeNode& element) {
+  const int formerLeaves = colorMode.Children.GetSize();
+  const int formerRecords = records_.GetSize();
+  try {
+    reader_->AddLeaves(colorMode, element);
+  } catch (...) {
+    for (int i = formerLeaves; i < colorMode.Children.GetSize(); ++i) delete ChildAt(colorMode, i);
+    colorMode.Children.SetSize(formerLeaves, -1);
+    records_.SetSize(formerRecords, -1);
+    throw;
+  }
+}
