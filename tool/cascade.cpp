@@ -105,24 +105,23 @@ Offer OfferMargins(APMQDF& document, const IDs& id) {
 }
 
 constexpr Level kJob[] = {
-    {"--ink", "Ink", "ink", "Ink", "inks", "Inks", OfferInks,
-     All<&APMQDF::GetFullInkTypeList>::Make},
-    {"--media", "Media", "media", "Media", "media", "Media", OfferMedia,
+    {"--ink", "ink", "Ink", "inks", "Inks", OfferInks, All<&APMQDF::GetFullInkTypeList>::Make},
+    {"--media", "media", "Media", "media", "Media", OfferMedia,
      All<&APMQDF::GetFullMediaTypeList>::Make},
-    {"--print-mode", "PrintMode", "printMode", "Print mode", "printModes", "Print modes",
-     OfferPrintModes, All<&APMQDF::GetFullPrintModeList>::Make},
-    {"--resolution", "Resolution", "resolution", "Resolution", "resolutions", "Resolutions",
-     OfferResolutions, All<&APMQDF::GetFullResolutionList>::Make},
-    {"--color-mode", "ColorMode", "colorMode", "Colour mode", "colorModes", "Colour modes",
-     OfferColorModes, All<&APMQDF::GetFullColorModeInfoList>::Make},
+    {"--print-mode", "printMode", "Print mode", "printModes", "Print modes", OfferPrintModes,
+     All<&APMQDF::GetFullPrintModeList>::Make},
+    {"--resolution", "resolution", "Resolution", "resolutions", "Resolutions", OfferResolutions,
+     All<&APMQDF::GetFullResolutionList>::Make},
+    {"--color-mode", "colorMode", "Colour mode", "colorModes", "Colour modes", OfferColorModes,
+     All<&APMQDF::GetFullColorModeInfoList>::Make},
 };
 
 constexpr Level kMediaSource[] = {
-    {"--source", "MediaSource", "mediaSource", "Media source", "mediaSources", "Media sources",
-     OfferMediaSources, All<&APMQDF::GetFullMediaSourceInfoList>::Make},
-    {"--size", "MediaSize", "mediaSize", "Media size", "mediaSizes", "Media sizes", OfferMediaSizes,
+    {"--source", "mediaSource", "Media source", "mediaSources", "Media sources", OfferMediaSources,
+     All<&APMQDF::GetFullMediaSourceInfoList>::Make},
+    {"--size", "mediaSize", "Media size", "mediaSizes", "Media sizes", OfferMediaSizes,
      All<&APMQDF::GetFullMediaSizeInfoList>::Make},
-    {nullptr, "Margin", "margin", "Margins", "margins", "Margins", OfferMargins,
+    {nullptr, "margin", "Margins", "margins", "Margins", OfferMargins,
      All<&APMQDF::GetFullMarginInfoList>::Make},
 };
 

@@ -19,9 +19,8 @@ struct Offer {
 };
 
 struct Level {
-  const char* option;   // of the command line; null where nothing is left to choose
-  const char* element;  // that nodes of the level have in a document
-  const char* key;      // of the choice made, and of the list that is offered
+  const char* option;  // of the command line; null where nothing is left to choose
+  const char* key;     // of the choice made, and of the list that is offered
   const char* label;
   const char* listKey;
   const char* listLabel;

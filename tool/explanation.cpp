@@ -10,7 +10,8 @@ namespace {
 
 class Explainer {
  public:
-  Explainer(APMQDF& document, Explanation& result) : result_(result) {
+  Explainer(APMQDF& document, check::Origins& origins, Explanation& result)
+      : result_(result), origins_(origins) {
     for (const Level& level : result.levels) {
       auto& known = result.known.emplace_back();
       for (Choice& choice : level.all(document)) {
@@ -29,7 +30,7 @@ class Explainer {
  private:
   struct Place {
     const CQDFNode* node;
-    std::string name;
+    const check::ElementNode* element;  // null when the file has changed meanwhile
   };
 
   std::size_t ChoiceCount() const { return result_.choices.size(); }
@@ -67,19 +68,21 @@ class Explainer {
   }
 
   void Stand(const CQDFNode& root, const DocumentMembers& members) {
-    std::vector<Place> places{{&root, ""}};
+    const auto& elements = result_.IsJob() ? origins_.Control() : origins_.Sources();
+    std::vector<Place> places{{&root, &elements}};
     for (std::size_t level = 0; level <= ChoiceCount(); ++level) {
       if (level == result_.at) {
         for (const Place& place : places) {
           const bool isEmpty = place.node->Children.GetSize() == 0;
-          result_.standing.push_back({place.name, Options(*place.node, level), isEmpty});
+          result_.standing.push_back(
+              {origins_.Of(place.element), Options(*place.node, level), isEmpty});
         }
         const bool isWhole = result_.IsJob() && level == result_.levels.size();
         if (isWhole) FindLacks(places, members);
       }
       if (level < ChoiceCount()) places = Below(places, level);
     }
-    if (!places.empty()) result_.found = places.front().name;
+    if (!places.empty()) result_.found = origins_.Of(places.front().element);
   }
 
   void FindLacks(const std::vector<Place>& places, const DocumentMembers& members) {
@@ -109,16 +112,20 @@ class Explainer {
     const auto id = static_cast<std::uint32_t>(result_.choices[level].id);
     std::vector<Place> below;
     for (const Place& place : places) {
-      const std::string start = place.name + (place.name.empty() ? "" : "/");
+      std::size_t at = 0;
       for (int i = 0; i < place.node->Children.GetSize(); ++i) {
         CQDFNode* child = ChildAt(*place.node, i);
-        if (IsIDInArray(id, *child) == 0) continue;
-        const std::string number = '[' + std::to_string(i + 1) + ']';
-        below.push_back({child, start});
-        below.back().name.append(result_.levels[level].element).append(number);
+        if (child->IDs.GetSize() == 0) continue;
+        const check::ElementNode* element = ElementAt(place.element, at++);
+        if (IsIDInArray(id, *child) != 0) below.push_back({child, element});
       }
     }
     return below;
+  }
+
+  static const check::ElementNode* ElementAt(const check::ElementNode* parent, std::size_t index) {
+    const bool isThere = parent != nullptr && index < parent->children.size();
+    return isThere ? &parent->children[index] : nullptr;
   }
 
   void FindHidden() {
@@ -159,17 +166,18 @@ class Explainer {
   }
 
   Explanation& result_;
+  check::Origins& origins_;
   std::vector<int> first_;                 // the ids of the first level's list
   std::vector<const CQDFNode*> deciding_;  // for so many choices, from none on
 };
 
 }  // namespace
 
-Explanation Explain(APMQDF& document, std::span<const Level> levels,
+Explanation Explain(APMQDF& document, check::Origins& origins, std::span<const Level> levels,
                     std::span<const Choice> choices) {
   Explanation explanation;
   explanation.levels = levels;
   explanation.choices = choices;
-  const Explainer explainer(document, explanation);
+  const Explainer explainer(document, origins, explanation);
   return explanation;
 }

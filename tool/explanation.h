@@ -3,16 +3,18 @@
 // What stands in the trees of a document about a choice in one of the two cascades, and so why it
 // gives an answer or none.
 
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "tool/cascade.h"
+#include "tool/check/origins.h"
 
 // A node that stands for the first choices.
 struct StandingNode {
-  std::string name;          // its way from the root, counted as in the tree: "Ink[2]/Media[1]"
+  check::Origin origin;
   std::vector<int> options;  // what it holds for the next level, of what the document's list has
   bool isEmpty;              // has nothing below it
 };
@@ -43,8 +45,8 @@ struct Explanation {
   };
   std::vector<Lack> lacks;
 
-  // The first node for all of the choices, whether they are listed or not; empty when none is.
-  std::string found;
+  // The first node for all of the choices, whether they are listed or not.
+  std::optional<check::Origin> found;
 
   // One choice in place of another, so that there is an answer.
   struct Change {
@@ -57,6 +59,7 @@ struct Explanation {
   bool IsJob() const { return levels.data() == kJobLevels.data(); }
 };
 
-// For choices on the first of the levels. Points into both.
-Explanation Explain(APMQDF& document, std::span<const Level> levels,
+// For choices on the first of the levels. Points into both. The origins are those of the document's
+// file.
+Explanation Explain(APMQDF& document, check::Origins& origins, std::span<const Level> levels,
                     std::span<const Choice> choices);

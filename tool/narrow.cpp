@@ -211,13 +211,13 @@ void WalkJob(const Document& document, const Arguments& arguments, Object& choic
   AddDetails(details, report);
 }
 
-void WalkWhy(const Document& document, Levels levels, const Arguments& arguments, Object& choice,
-             Object& report) {
+void WalkWhy(const Document& document, check::Origins& origins, Levels levels,
+             const Arguments& arguments, Object& choice, Object& report) {
   Walk walk(document, levels, arguments);
   Object offers;
   walk.Descend(choice, offers);
   const std::vector<Choice> choices = walk.Choices();
-  report.Add(TellWhy(Explain(*document.content, levels, choices)));
+  report.Add(TellWhy(Explain(*document.content, origins, levels, choices)));
 }
 
 Answer Narrow(const Arguments& arguments) {
@@ -231,8 +231,12 @@ Answer Narrow(const Arguments& arguments) {
   Object choice;
   Object offers;
   if (arguments.Has("--why")) {
-    if (job || !mediaSource) WalkWhy(document, kJobLevels, arguments, choice, offers);
-    if (mediaSource || !job) WalkWhy(document, kMediaSourceLevels, arguments, choice, offers);
+    check::Origins origins(document.path);
+    const auto walk = [&](Levels levels) {
+      WalkWhy(document, origins, levels, arguments, choice, offers);
+    };
+    if (job || !mediaSource) walk(kJobLevels);
+    if (mediaSource || !job) walk(kMediaSourceLevels);
   } else {
     if (job || !mediaSource) WalkJob(document, arguments, choice, offers);
     if (mediaSource || !job) Walk(document, kMediaSourceLevels, arguments).Descend(choice, offers);
@@ -262,8 +266,9 @@ const Command kNarrowCommand = {
     "Narrow a print job step by step",
     "Shows what may follow the choices made so far: an ink, then a medium and so on down to a\n"
     "colour mode, and below that the profiles and dithers; or a media source, then a size, and\n"
-    "below that the margins. X is an id, a display name or an internal name. With --why nodes are\n"
-    "counted as qdf tree shows them: elements that vanish, of which qdf check tells, are none.",
+    "below that the margins. X is an id, a display name or an internal name. --why names the "
+    "nodes\n"
+    "of the tree by their elements, with the lines and columns at which these stand.",
     "qdf narrow plot36.qdf --ink 1 --media Glossy\n"
     "  qdf narrow plot36.qdf --defaults\n"
     "  qdf narrow plot36.qdf --source 1 --size A4 --why",

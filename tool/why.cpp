@@ -6,9 +6,10 @@ namespace {
 
 using Names = std::vector<std::string>;
 
+constexpr std::size_t kMost = 4;
+
 // As in: a, b and 3 more.
 std::string Enumerate(const Names& names, const std::string& joint) {
-  constexpr std::size_t kMost = 4;
   std::string text;
   for (std::size_t i = 0; i < names.size() && i < kMost; ++i) {
     const bool isLast = i + 1 == names.size();
@@ -22,6 +23,19 @@ std::string Enumerate(const Names& names, const std::string& joint) {
 std::string UpperFirst(std::string text) {
   text[0] = static_cast<char>(text[0] & ~('a' ^ 'A'));
   return text;
+}
+
+// The path of its element, from behind the section that all of the tree have in common.
+std::string TellBriefly(const check::Origin& node) {
+  if (node.path.empty()) return "an unknown element";
+  const std::size_t section = node.path.find('/', 1) + 1;
+  return node.path.substr(node.path.find('/', section) + 1);
+}
+
+std::string TellNode(const check::Origin& node) {
+  const check::Position& at = node.position;
+  return TellBriefly(node) + " (line " + std::to_string(at.line) + ", column " +
+         std::to_string(at.column) + ')';
 }
 
 class Teller {
@@ -80,7 +94,7 @@ class Teller {
   std::string TellNodes() const {
     if (facts_.at == 0) return "";
     Names names;
-    for (const StandingNode& node : facts_.standing) names.push_back(node.name);
+    for (const StandingNode& node : facts_.standing) names.push_back(TellNode(node.origin));
     if (IsWhole()) {
       const std::string first = " It is found in " + names.front();
       names.erase(names.begin());
@@ -92,6 +106,12 @@ class Teller {
     if (names.size() == 1) return " One node stands for " + these + ", " + names.front() + '.';
     return ' ' + std::to_string(names.size()) + " nodes stand for " + these + ", " +
            Enumerate(names, "and") + "; the first one decides what is listed.";
+  }
+
+  // A standing node, with its place if that hasn't been told.
+  std::string TellAgain(std::size_t node) const {
+    const check::Origin& origin = facts_.standing[node].origin;
+    return node < kMost ? TellBriefly(origin) : TellNode(origin);
   }
 
   // What the deciding node has instead.
@@ -117,7 +137,7 @@ class Teller {
       return facts_.standing.size() == 1 ? "" : " No other holds " + Failing() + '.';
     }
     const std::size_t node = facts_.hidden[static_cast<std::size_t>(found - ids.begin())].node;
-    return ' ' + UpperFirst(Failing()) + " stands in " + facts_.standing[node].name +
+    return ' ' + UpperFirst(Failing()) + " stands in " + TellAgain(node) +
            ", which comes too late.";
   }
 
@@ -141,7 +161,7 @@ class Teller {
       }
       if (kinds.empty()) continue;
       text.append(" The first one lacks ").append(Enumerate(kinds, "and"));
-      text.append(" of ").append(facts_.standing[i].name).append(".");
+      text.append(" of ").append(TellAgain(i)).append(".");
     }
     return text;
   }
@@ -149,9 +169,9 @@ class Teller {
   // The profiles and the like of a job are found by a search that goes back.
   std::string TellFound() const {
     const bool isAsked = facts_.IsJob() && facts_.choices.size() == facts_.levels.size();
-    if (!isAsked || !facts_.IsUnlisted() || facts_.found.empty()) return "";
+    if (!isAsked || !facts_.IsUnlisted() || !facts_.found) return "";
     return " A host that gives all ids at once still gets the profiles and dithers of " +
-           facts_.found + '.';
+           TellNode(*facts_.found) + '.';
   }
 
   std::string TellChanges() const {
@@ -180,13 +200,29 @@ Object OptionRow(const Explanation& facts, std::size_t level, int id) {
           {"internalName", nullptr, OrNull(choice.internalName)}};
 }
 
+void AddNode(const check::Origin& node, Object& row) {
+  const bool isKnown = !node.path.empty();
+  row.Add({"path", nullptr, isKnown ? Value(node.path) : Value()});
+  row.Add({"line", nullptr, isKnown ? Value(node.position.line) : Value()});
+  row.Add({"column", nullptr, isKnown ? Value(node.position.column) : Value()});
+}
+
+Value FoundNode(const Explanation& facts) {
+  if (!facts.found) return {};
+  Object row;
+  AddNode(*facts.found, row);
+  return row;
+}
+
 List NodeRows(const Explanation& facts) {
   List rows;
   for (const StandingNode& node : facts.standing) {
     List options;
     for (const int id : node.options) options.emplace_back(OptionRow(facts, facts.at, id));
-    rows.emplace_back(
-        Object{{"node", nullptr, node.name}, {"options", nullptr, std::move(options)}});
+    Object row;
+    AddNode(node.origin, row);
+    row.Add({"options", nullptr, std::move(options)});
+    rows.emplace_back(std::move(row));
   }
   return rows;
 }
@@ -195,7 +231,7 @@ List HiddenRows(const Explanation& facts) {
   List rows;
   for (const Explanation::Hidden& hidden : facts.hidden) {
     Object row = OptionRow(facts, facts.at, hidden.id);
-    row.Add({"node", nullptr, facts.standing[hidden.node].name});
+    AddNode(facts.standing[hidden.node].origin, row);
     rows.emplace_back(std::move(row));
   }
   return rows;
@@ -204,9 +240,9 @@ List HiddenRows(const Explanation& facts) {
 List LackRows(const Explanation& facts) {
   List rows;
   for (const Explanation::Lack& lack : facts.lacks) {
-    rows.emplace_back(Object{{"what", nullptr, lack.what},
-                             {"name", nullptr, lack.name},
-                             {"node", nullptr, facts.standing[lack.node].name}});
+    Object row{{"what", nullptr, lack.what}, {"name", nullptr, lack.name}};
+    AddNode(facts.standing[lack.node].origin, row);
+    rows.emplace_back(std::move(row));
   }
   return rows;
 }
@@ -232,7 +268,7 @@ Field TellWhy(const Explanation& facts) {
                  {"nodes", nullptr, NodeRows(facts)},
                  {"hidden", nullptr, HiddenRows(facts)},
                  {"lacks", nullptr, LackRows(facts)},
-                 {"found", nullptr, facts.found.empty() ? Value() : Value(facts.found)},
+                 {"found", nullptr, FoundNode(facts)},
                  {"changes", nullptr, ChangeRows(facts)},
                  {"text", nullptr, text}},
           text};

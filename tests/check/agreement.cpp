@@ -4,8 +4,10 @@
 #include <cstdio>
 #include <memory>
 
+#include "qdf/core/documentmembers.h"
 #include "tests/check/facts.h"
 #include "tests/documents.h"
+#include "tool/check/origins.h"
 
 namespace {
 
@@ -70,6 +72,29 @@ std::string WriteDisagreement(APMQDF& document, const std::string& scratch) {
   return lost.empty() ? "" : "a write loses without a word: " + lost;
 }
 
+// The leaves below the last level come from elements of other kinds, no walk takes a node without
+// ids, and "ALL" stands for media in the order of their names.
+bool SameTree(const check::ElementNode& element, const CQDFNode& node, int levels) {
+  std::vector<const CQDFNode*> children;
+  for (int i = 0; levels > 0 && i < node.Children.GetSize(); ++i) {
+    if (ChildAt(node, i)->IDs.GetSize() > 0) children.push_back(ChildAt(node, i));
+  }
+  const auto isSame = [&](const check::ElementNode& below, const CQDFNode* child) {
+    return SameTree(below, *child, levels - 1);
+  };
+  return std::is_permutation(element.ids.begin(), element.ids.end(), node.IDs.begin(),
+                             node.IDs.end()) &&
+         std::equal(element.children.begin(), element.children.end(), children.begin(),
+                    children.end(), isSame);
+}
+
+bool HasOrigins(const std::string& path, APMQDF& document) {
+  const check::Origins origins(path);
+  const DocumentMembers members(document);
+  return SameTree(origins.Control(), members.ControlTreeRoot, 5) &&
+         SameTree(origins.Sources(), members.MediaSourceTreeRoot, 3);
+}
+
 }  // namespace
 
 bool Finds(const check::Examination& examination, check::Severity severity) {
@@ -86,6 +111,7 @@ std::string Disagreement(const std::string& path, const std::string& scratch) {
   if (refused != (document == nullptr)) {
     return refused ? "a document with an error loads" : "a document without errors is refused";
   }
+  if (!refused && !HasOrigins(path, *document)) return "a node has another element's ids";
   if (refused || Finds(examination, check::Severity::kWarning)) return "";
   const std::string lost = Missing(FactsOfFile(path), FactsOf(*document));
   if (!lost.empty()) return "the object lacks without a warning: " + lost;

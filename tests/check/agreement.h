@@ -9,6 +9,7 @@
 
 // Empty when they agree about the document in the file, else what they disagree about:
 // - a document has an error exactly when it is refused;
+// - each node of the object has an element of its own, with the same ids;
 // - without a warning the object holds every entry, node, name, id and default of the file;
 // - when moreover a write is said to lose nothing, the written document loads as the same object.
 //   It is written to `scratch`, where there is nothing before and nothing afterwards.

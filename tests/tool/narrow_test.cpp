@@ -187,36 +187,36 @@ follow. Ink 1 "Photo Black" instead of 3 would give an answer.
 )"},
       {"--ink 2", R"(
 Media 10 "Plain" may follow ink 2 "Matte Black". 2 nodes stand for that choice,
-Ink[2] and Ink[3]; the first one decides what is listed. Later nodes also hold
-media 13 "Glossy", which is never listed.
+Ink[2] (line 55, column 4) and Ink[3] (line 56, column 4); the first one decides
+what is listed. Later nodes also hold media 13 "Glossy", which is never listed.
 )"},
       {"--ink 2 --media 11", R"(
 Media 11 "Glossy" isn't listed for ink 2 "Matte Black". 2 nodes stand for that
-choice, Ink[2] and Ink[3]; the first one decides what is listed. It holds only
-media 10 "Plain". No other holds media 11 "Glossy". Ink 1 "Photo Black" instead
-of 2 would give an answer.
+choice, Ink[2] (line 55, column 4) and Ink[3] (line 56, column 4); the first one
+decides what is listed. It holds only media 10 "Plain". No other holds media 11
+"Glossy". Ink 1 "Photo Black" instead of 2 would give an answer.
 )"},
       {"--ink 2 --media 10 --defaults", R"(
 No print modes are listed for ink 2 "Matte Black", media 10 "Plain". One node
-stands for these choices, Ink[2]/Media[1]. It has nothing below it. Ink 1 "Photo
-Black" instead of 2 would give an answer.
+stands for these choices, Ink[2]/Media (line 55, column 16). It has nothing
+below it. Ink 1 "Photo Black" instead of 2 would give an answer.
 )"},
       {"--ink 2 --media 13 --print-mode 20 --resolution 31 --color-mode 41", R"(
 Media 13 "Glossy" isn't listed for ink 2 "Matte Black". 2 nodes stand for that
-choice, Ink[2] and Ink[3]; the first one decides what is listed. It holds only
-media 10 "Plain". Media 13 "Glossy" stands in Ink[3], which comes too late. A
-host that gives all ids at once still gets the profiles and dithers of
-Ink[3]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1]. No change of one choice
-alone gives an answer.
+choice, Ink[2] (line 55, column 4) and Ink[3] (line 56, column 4); the first one
+decides what is listed. It holds only media 10 "Plain". Media 13 "Glossy" stands
+in Ink[3], which comes too late. A host that gives all ids at once still gets
+the profiles and dithers of Ink[3]/Media/PrintMode/Resolution/ColorMode (line
+56, column 70). No change of one choice alone gives an answer.
 )"},
       {"--ink 1 --defaults", R"(
 The combination gives an answer. It is found in
-Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1].
+Ink[1]/Media/PrintMode/Resolution/ColorMode (line 49, column 8).
 )"},
       {"--source 51 --size 60", R"(
 No margins are listed for media source 51 "Tray", media size 60 "A4". One node
-stands for these choices, MediaSource[2]/MediaSize[1]. It has nothing below it.
-Media source 50 "Roll" instead of 51 would give an answer.
+stands for these choices, MediaSource[2]/MediaSize (line 63, column 25). It has
+nothing below it. Media source 50 "Roll" instead of 51 would give an answer.
 )"},
   };
   for (const auto& row : rows) {
@@ -232,17 +232,24 @@ Media source 50 "Roll" instead of 51 would give an answer.
   why.erase("text");
   EXPECT_EQ(why, nlohmann::json::parse(R"({"answers": false, "level": "media",
     "nodes": [
-      {"node": "Ink[2]", "options": [{"id": 10, "displayName": "Plain", "internalName": "pl"}]},
-      {"node": "Ink[3]", "options": [{"id": 13, "displayName": "Glossy", "internalName": "gl2"}]}],
-    "hidden": [{"id": 13, "displayName": "Glossy", "internalName": "gl2", "node": "Ink[3]"}],
-    "lacks": [], "lacks": [], "found": "Ink[3]/Media[1]", "changes": []})"));
+      {"path": "/QDF_Info/Control_Definition/Ink[2]", "line": 55, "column": 4,
+       "options": [{"id": 10, "displayName": "Plain", "internalName": "pl"}]},
+      {"path": "/QDF_Info/Control_Definition/Ink[3]", "line": 56, "column": 4,
+       "options": [{"id": 13, "displayName": "Glossy", "internalName": "gl2"}]}],
+    "hidden": [{"id": 13, "displayName": "Glossy", "internalName": "gl2",
+                "path": "/QDF_Info/Control_Definition/Ink[3]", "line": 56, "column": 4}],
+    "found": {"path": "/QDF_Info/Control_Definition/Ink[3]/Media", "line": 56, "column": 16},
+    "lacks": [], "changes": []})"));
 }
 
+// Elements whose ids nobody knows stand among the others.
 TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
   const TempFolder folder;
   std::string text = kSmallDocument;
+  text.insert(text.find("<MediaSource ID"),
+              "<MediaSource ID=\"7\"><MediaSize ID=\"60\"/></MediaSource>");
   const std::string again =
-      "<ColorMode ID=\"40\"><ICCProfile>b.icc</ICCProfile>"
+      "<ColorMode ID=\"99\"/>\n<ColorMode ID=\"40\"><ICCProfile>b.icc</ICCProfile>"
       "<ICCProfile>late.icc</ICCProfile><DitherList SupportAll=\"0\">"
       "<Dither Name=\"Fine\"/><Dither Name=\"Late\"/></DitherList></ColorMode>";
   text.insert(text.find("</Resolution>"), again);
@@ -250,14 +257,20 @@ TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
   const nlohmann::json why =
       RunJson(SplitWords("narrow twice.qdf --ink 1 --defaults --why --color-mode 40"),
               {folder.Path()})["job"];
-  const std::string first = "Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[1]";
-  const std::string later = "Ink[1]/Media[1]/PrintMode[1]/Resolution[1]/ColorMode[2]";
-  EXPECT_EQ(why["text"], "The combination gives an answer. It is found in " + first + "; " + later +
-                             ", which would fit too, is never asked. The first one lacks profile "
-                             "\"late.icc\" and dither \"Late\" of " +
-                             later + '.');
+  const std::string first = "Ink[1]/Media/PrintMode/Resolution/ColorMode[1] (line 49, column 8)";
+  const std::string later = "Ink[1]/Media/PrintMode/Resolution/ColorMode[3]";
+  EXPECT_EQ(
+      why["text"],
+      "The combination gives an answer. It is found in " + first + "; " + later +
+          " (line 55, column 2), which would fit too, is never asked. The first one lacks profile "
+          "\"late.icc\" and dither \"Late\" of " +
+          later + '.');
   EXPECT_EQ(why["lacks"][1],
-            (nlohmann::json{{"what", "dither"}, {"name", "Late"}, {"node", later}}));
+            nlohmann::json::parse(R"({"what": "dither", "name": "Late", "line": 55, "column": 2,
+    "path": "/QDF_Info/Control_Definition/Ink[1]/Media/PrintMode/Resolution/ColorMode[3]"})"));
+  EXPECT_EQ(RunJson(SplitWords("narrow twice.qdf --source 51 --size 60 --why"),
+                    {folder.Path()})["mediaSource"]["nodes"][0]["path"],
+            "/QDF_Info/MediaSource_Control/MediaSource[3]/MediaSize");
 }
 
 // All single changes of a choice of three are tried.

@@ -79,18 +79,24 @@ void ExamineContent(const XMLView& document, const std::string& path, const Choi
                     Findings& findings) {
   CheckEncoding(document.Bytes().Text(), findings);
   CheckStructure(document, findings);
-  const Lists lists = CheckLists(document, findings);
+  const Kept kept = CheckKept(document, findings);
   if (choice.hostFiles) CheckHostFiles(document, path, findings);
-  if (lists.refused) return;
-  const ElementNode control = CheckControl(document, lists, findings);
-  CheckColorModes(control, findings);
-  CheckReach(control, lists, findings);
-  const ElementNode sources = CheckMediaSources(document, lists, findings);
-  CheckUse(lists, control, sources, findings);
-  if (choice.writeLoss) CheckWriteLoss(document, lists, control, sources, findings);
+  if (kept.lists.refused) return;
+  CheckColorModes(kept.control, findings);
+  CheckReach(kept.control, kept.lists, findings);
+  CheckUse(kept, findings);
+  if (choice.writeLoss) CheckWriteLoss(document, kept, findings);
 }
 
 }  // namespace
+
+Kept CheckKept(const XMLView& document, Findings& findings) {
+  Kept kept{CheckLists(document, findings), {}, {}};
+  if (kept.lists.refused) return kept;
+  kept.control = CheckControl(document, kept.lists, findings);
+  kept.sources = CheckMediaSources(document, kept.lists, findings);
+  return kept;
+}
 
 Examination Unreadable(std::string reason, std::string hint) {
   Source none{std::string_view()};

@@ -61,6 +61,13 @@ struct ElementNode {
   std::vector<ElementNode> children;
 };
 
+struct Kept {
+  Lists lists;
+  // The roots of the two trees. One has no element when its section isn't there or isn't read.
+  ElementNode control;
+  ElementNode sources;
+};
+
 // The levels of Control_Definition, from the top.
 struct ControlLevel {
   ListKind list;

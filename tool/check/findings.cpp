@@ -1,7 +1,6 @@
 #include "tool/check/findings.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace check {
@@ -27,7 +26,7 @@ std::string Count(std::size_t number, const std::string& noun) {
 void Findings::Add(Code code, const Element& element, Place place, std::string message,
                    std::string hint) {
   AddAt(code, place, std::move(message), std::move(hint));
-  findings_.back().path = PathOf(element);
+  findings_.back().path = paths_.Of(element);
 }
 
 void Findings::AddAt(Code code, Place place, std::string message, std::string hint) {
@@ -53,31 +52,6 @@ std::vector<Finding> Findings::Take() {
     return a.place.begin < b.place.begin;
   });
   return std::exchange(findings_, {});
-}
-
-std::string Findings::PathOf(const Element& element) {
-  std::string path;
-  for (Element at = element; at; at = at.Parent()) path.insert(0, '/' + StepOf(at));
-  return path;
-}
-
-std::string Findings::StepOf(const Element& element) {
-  std::string name = element.Name();
-  const Element parent = element.Parent();
-  if (!parent) return name;
-  if (numbers_.find(element.Identity()) == numbers_.end()) NumberChildren(parent);
-  const int number = numbers_[element.Identity()];
-  return number == 0 ? name : name + '[' + std::to_string(number) + ']';
-}
-
-void Findings::NumberChildren(const Element& parent) {
-  std::map<std::string_view, int> seen;
-  for (Element child = parent.First(); child; child = child.Next()) {
-    numbers_[child.Identity()] = ++seen[child.Name()];
-  }
-  for (Element child = parent.First(); child; child = child.Next()) {
-    if (seen[child.Name()] == 1) numbers_[child.Identity()] = 0;
-  }
 }
 
 }  // namespace check

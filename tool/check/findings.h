@@ -4,10 +4,10 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "tool/check/codes.h"
+#include "tool/check/elementpaths.h"
 #include "tool/check/xmlview.h"
 
 namespace check {
@@ -18,7 +18,7 @@ struct Finding {
   bool placed = false;  // whether there is a place in the file to speak of
   Place place;
   Position position;
-  std::string path;     // of the element, as in "/QDF_Info/Definition/MediaList/MediaDef[2]"
+  std::string path;     // of the element
   std::string message;  // a sentence without its full stop
   std::string hint;     // what to do about it, without a full stop as well
 };
@@ -49,15 +49,9 @@ class Findings {
   std::vector<Finding> Take();
 
  private:
-  std::string PathOf(const Element& element);
-  std::string StepOf(const Element& element);
-  void NumberChildren(const Element& parent);
-
   const Source& source_;
   std::vector<Finding> findings_;
-  // The place of each element among those of its name, 0 when it is the only one, for all children
-  // of the parents that a finding led to.
-  std::unordered_map<const void*, int> numbers_;
+  ElementPaths paths_;
 };
 
 }  // namespace check

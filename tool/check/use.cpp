@@ -45,18 +45,17 @@ class UseRules {
 
 }  // namespace
 
-void CheckUse(const Lists& lists, const ElementNode& control, const ElementNode& sources,
-              Findings& findings) {
+void CheckUse(const Kept& kept, Findings& findings) {
   constexpr ListKind kControl[] = {kInks, kMedia, kPrintModes, kResolutions, kColorModes};
   constexpr ListKind kSources[] = {kMediaSources, kMediaSizes, kMargins};
-  UseRules rules(lists, findings);
+  UseRules rules(kept.lists, findings);
   // Where a whole section is missing or empty, that has been told.
-  if (!control.children.empty()) {
-    rules.Gather(control.children, kControl);
+  if (!kept.control.children.empty()) {
+    rules.Gather(kept.control.children, kControl);
     for (const ListKind kind : kControl) rules.Tell(kind);
   }
-  if (!sources.children.empty()) {
-    rules.Gather(sources.children, kSources);
+  if (!kept.sources.children.empty()) {
+    rules.Gather(kept.sources.children, kSources);
     for (const ListKind kind : kSources) rules.Tell(kind);
   }
 }

@@ -258,13 +258,12 @@ class WriteLossRules {
 
 }  // namespace
 
-void CheckWriteLoss(const XMLView& document, const Lists& lists, const ElementNode& control,
-                    const ElementNode& sources, Findings& findings) {
-  WriteLossRules rules(lists, findings);
+void CheckWriteLoss(const XMLView& document, const Kept& kept, Findings& findings) {
+  WriteLossRules rules(kept.lists, findings);
   rules.ExamineAsides(document);
   rules.ExamineLists();
-  rules.ExamineControl(control);
-  rules.ExamineSources(sources);
+  rules.ExamineControl(kept.control);
+  rules.ExamineSources(kept.sources);
 }
 
 }  // namespace check
