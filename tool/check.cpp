@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 #include <set>
 
 #include "qdf/support/text.h"
@@ -28,14 +27,22 @@ struct FormatName {
 constexpr FormatName kFormats[] = {
     {"text", Format::kText}, {"json", Format::kJson}, {"sarif", Format::kSarif}};
 
-Format ChooseFormat(const std::string* name) {
-  if (name == nullptr) return Format::kText;
+Format FindFormat(const std::string& name) {
   std::vector<std::string> names;
   for (const FormatName& each : kFormats) {
-    if (*name == each.name) return each.format;
+    if (name == each.name) return each.format;
     names.emplace_back(each.name);
   }
-  throw UnknownWord("format", *name, names);
+  throw UnknownWord("format", name, names);
+}
+
+Format ChooseFormat(const Arguments& arguments) {
+  const bool isJson = arguments.Has("--json");
+  const std::string* name = arguments.Find("--format");
+  if (name == nullptr) return isJson ? Format::kJson : Format::kText;
+  const Format format = FindFormat(*name);
+  if (!isJson || format == Format::kJson) return format;
+  throw Failure(kWrongUsage, "--json contradicts --format " + *name);
 }
 
 Failure UnknownCode(const std::string& code) {
@@ -146,16 +153,19 @@ ExitCode CodeFor(const Documents& documents, bool warningsCount) {
   return kAnswered;
 }
 
+std::string LayOut(const Documents& documents, Format format, bool onTerminal) {
+  if (format == Format::kText) return TextOf(documents, onTerminal);
+  return RenderJson(format == Format::kSarif ? SarifOf(documents) : JsonOf(documents));
+}
+
 Answer Check(const Arguments& arguments) {
-  const Format format = ChooseFormat(arguments.Find("--format"));
-  const auto documents = std::make_shared<const Documents>(ExamineAll(arguments));
-  const ExitCode code = CodeFor(*documents, arguments.Has("--werror"));
-  const Object report = format == Format::kSarif ? SarifOf(*documents) : JsonOf(*documents);
-  if (format != Format::kText) {
-    return {report, code, {}, [report](bool /*onTerminal*/) { return RenderJson(report); }};
-  }
-  return {
-      report, code, {}, [documents](bool onTerminal) { return TextOf(*documents, onTerminal); }};
+  const Format format = ChooseFormat(arguments);
+  Documents documents = ExamineAll(arguments);
+  const ExitCode code = CodeFor(documents, arguments.Has("--werror"));
+  if (arguments.Has("--json")) return {JsonOf(documents), code};
+  return {{}, code, {}, [format, documents = std::move(documents)](bool onTerminal) {
+            return LayOut(documents, format, onTerminal);
+          }};
 }
 
 constexpr Option kOptions[] = {

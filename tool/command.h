@@ -26,7 +26,8 @@ struct Option {
   Times times = Times::kOnce;
 };
 
-// What was given for each option, by the last of its names.
+// What was given for each option, by the last of its names. Every command has the option "--json"
+// as well, which is for whoever prints its answer.
 class Arguments {
  public:
   void Set(const std::string& name, std::vector<std::string> values) {
@@ -60,7 +61,8 @@ struct Answer {
   ExitCode code = kAnswered;
   // What the person is asked once the report is shown; none when all is done.
   std::shared_ptr<const Question> question{};
-  // Lays the report out for people; without it the report's own shape decides.
+  // Lays the answer out for people; without it the report's own shape decides. A command that has
+  // this may leave the report empty unless "--json" is given.
   std::function<std::string(bool onTerminal)> text{};
 };
 

@@ -88,15 +88,14 @@ class Grammar {
     const Command* command;
     CLI::App* app;
     std::vector<CLI::Option*> options;
-    CLI::Option* json;
   };
 
   void AddCommand(const Command& command) {
     CLI::App* app = app_.add_subcommand(command.name, command.summary)->group("Commands");
     app->footer(CommandFooter(command));
-    Entry entry{&command, app, {}, nullptr};
+    Entry entry{&command, app, {}};
     for (const Option& option : command.options) entry.options.push_back(Declare(*app, option));
-    entry.json = Declare(*app, kJsonOption);
+    entry.options.push_back(Declare(*app, kJsonOption));
     entries_.push_back(entry);
   }
 
@@ -135,7 +134,6 @@ class Grammar {
     for (const Entry& entry : entries_) {
       if (!*entry.app) continue;
       invocation.command = entry.command;
-      invocation.json = entry.json->count() > 0;
       for (const CLI::Option* option : entry.options) {
         if (option->count() == 0) continue;
         invocation.arguments.Set(option->get_name(), option->results());

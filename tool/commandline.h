@@ -13,7 +13,6 @@ struct Invocation {
   const Command* command = nullptr;
   Arguments arguments;
   std::vector<std::string> folders;  // to change to, one after the other, before the command runs
-  bool json = false;
 };
 
 // Throws a Failure for what can't be understood.

@@ -34,11 +34,12 @@ Answer Ask(const Question& question, bool json) {
 
 int Run(const Command& command, const Invocation& invocation) {
   for (const std::string& folder : invocation.folders) ChangeFolder(folder);
+  const bool json = invocation.arguments.Has("--json");
   Answer answer = command.run(invocation.arguments);
-  PrintAnswer(answer, invocation.json);
+  PrintAnswer(answer, json);
   while (answer.question != nullptr) {
-    answer = Ask(*answer.question, invocation.json);
-    PrintAnswer(answer, invocation.json);
+    answer = Ask(*answer.question, json);
+    PrintAnswer(answer, json);
   }
   return answer.code;
 }

@@ -181,6 +181,7 @@ TEST(CheckCommand, AnswersWithExitCodes) {
        "element-unknown, id-unknown\n"},
       {"warns --format xml", 2, "",
        "qdf: there is no format \"xml\"; choose from text, json, sarif\n"},
+      {"warns --json --format sarif", 2, "", "qdf: --json contradicts --format sarif\n"},
       {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers", 1,
        nothing.c_str(), ""},
   };
