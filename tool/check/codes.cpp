@@ -92,7 +92,7 @@ constexpr Rule kRules[] = {
      "without MediaSource_Control no media source is offered"},
     {Code::kSourceShadowed, "source-shadowed", kWarning,
      "a second element for a media source or size is never looked at"},
-    {Code::kSourceOverlaps, "source-overlaps", kNote,
+    {Code::kSourceOverlaps, "source-overlaps", kWarning,
      "some ids of an element are answered by an earlier one"},
     {Code::kSizeNoMargins, "size-no-margins", kWarning, "a media size has no margins"},
 
