@@ -11,19 +11,24 @@ namespace {
 enum class Of { kPart, kWhole };
 
 int EditDistance(std::string_view text, std::string_view name, Of of) {
+  const auto isSame = [](char a, char b) { return UpperChar(a) == UpperChar(b); };
   // The distances of the beginning of the text that was looked at last to what ends at each place
   // of the name. A part may begin anywhere at no cost, and end anywhere.
-  std::vector<int> row(name.size() + 1, 0);
-  if (of == Of::kWhole) std::iota(row.begin(), row.end(), 0);
+  std::vector<int> last(name.size() + 1, 0);
+  if (of == Of::kWhole) std::iota(last.begin(), last.end(), 0);
+  std::vector<int> beforeLast;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    int diagonal = std::exchange(row[0], static_cast<int>(i) + 1);
+    std::vector<int> row(last.size(), static_cast<int>(i) + 1);
     for (std::size_t j = 0; j < name.size(); ++j) {
-      const int replaced = diagonal + (UpperChar(text[i]) == UpperChar(name[j]) ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+      const int replaced = last[j] + (isSame(text[i], name[j]) ? 0 : 1);
+      row[j + 1] = std::min({replaced, last[j + 1] + 1, row[j] + 1});
+      const bool isSwapped =
+          i > 0 && j > 0 && isSame(text[i], name[j - 1]) && isSame(text[i - 1], name[j]);
+      if (isSwapped) row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + 1);
     }
+    beforeLast = std::exchange(last, std::move(row));
   }
-  return of == Of::kWhole ? row.back() : *std::min_element(row.begin(), row.end());
+  return of == Of::kWhole ? last.back() : *std::min_element(last.begin(), last.end());
 }
 
 }  // namespace

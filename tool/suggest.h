@@ -9,9 +9,9 @@
 
 #include "tool/failure.h"
 
-// How far a text is from a name: the numbers of characters to put in, take out or replace, ignoring
-// case, until it is some part of the name, and until it is the whole of it. The first counts most,
-// so that a word is near to every name that holds it.
+// How far a text is from a name: the numbers of characters to put in, take out, replace or swap
+// with the next, ignoring case, until it is some part of the name, and until it is the whole of it.
+// The first counts most, so that a word is near to every name that holds it.
 using Distance = std::pair<int, int>;
 
 Distance DistanceTo(std::string_view name, std::string_view text);

@@ -119,7 +119,7 @@ class ColorModeRules {
   void TellAllHides(const Element& all, const std::string& noun, std::size_t others) {
     if (others == 0) return;
     findings_.Add(Code::kAllHides, all,
-                  "\"ALL\" hides the " + Count(others, "other " + noun) +
+                  "\"ALL\" hides " + Count(others, "other " + noun) +
                       " of this ColorMode: hosts get \"ALL\" alone",
                   "keep either \"ALL\" or the names");
   }

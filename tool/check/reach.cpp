@@ -153,8 +153,8 @@ class ReachRules {
                   Describe(level, option.id) + " can be reached here for " + chosen +
                       ", but is never listed: the " + above + " on " +
                       findings_.LineOf(option.answers->element) + " answers what follows",
-                  "add it there, or take " + Describe(level - 1, option.chosen.back()) +
-                      " out of the " + above + " above");
+                  "add it to that " + above + ", or take " +
+                      Describe(level - 1, option.chosen.back()) + " out of its ID");
   }
 
   bool IsReached(const ElementNode& node) const {
