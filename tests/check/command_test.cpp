@@ -49,13 +49,6 @@ constexpr MessageRow kMessages[] = {
      "31:69: warning: `nine` in Size isn't a plain number: Size is read as 9, 9, 0 and 0 "
      "[number-malformed]",
      "write 4 numbers with commas or blanks between them"},
-    {"<Size>595,842</Size>", "<Size>595.5mm,842</Size>",
-     "27:66: warning: `595.5mm` in Size isn't a plain number: Size is read as 595.5 and 0 "
-     "[number-malformed]",
-     "write 2 numbers with commas or blanks between them"},
-    {"<Size>595,842</Size>", "<Size>nan,842</Size>",
-     "27:66: warning: the Size `nan,842` gives a dimension that isn't above 0 [size-not-positive]",
-     "write two positive numbers"},
     {"<Size>595,842</Size>", "<Size>595,0x10</Size>",
      "27:66: warning: `0x10` in Size isn't a plain number: Size is read as 595 and 16 "
      "[number-malformed]",
