@@ -107,6 +107,19 @@ Settings of media sources (1)
   Setting             Before  After  For   How many
   Default media size  A4      -      Tray         1
 )"}));
+  // Without margins it is one.
+  const std::string out =
+      With(Edited({{"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60\" MarginIDList=\"70\"/>"}})).out;
+  EXPECT_NE(out.find(R"( combinations lost (1)
+  Media source  Margins  How many
+  Tray          none            1
+
+Groups of media source combinations won (1)
+  Media source  How many
+  Tray                 1
+)"),
+            std::string::npos)
+      << out;
 }
 
 TEST_F(Diff, TellsChangesByNameAndTheWeightiestFirst) {

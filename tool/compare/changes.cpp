@@ -141,6 +141,7 @@ Difference AddLists(const Comparison& comparison, Shown shown, Object& report) {
 
 Object OptionsForPrograms(const OptionSet& options, const std::vector<std::string>& names) {
   if (options.kind == OptionSet::kEvery) return {{"every", nullptr, true}};
+  if (options.kind == OptionSet::kNone) return {{"none", nullptr, true}};
   List list;
   for (const int entry : options.entries) list.emplace_back(names[static_cast<std::size_t>(entry)]);
   return {{options.kind == OptionSet::kOnly ? "only" : "except", nullptr, std::move(list)}};

@@ -18,6 +18,8 @@ struct Group {
   }
 };
 
+using Groups = std::map<Group, std::vector<int>>;  // with their counts
+
 struct Folded {
   bool exists = true;
   int shape = FoldQuestion::kNothing;
@@ -64,6 +66,9 @@ class Folder {
   Folded Fold(const PathPair& path, std::size_t level) {
     const int label = question_.label(path, level);
     if (label == FoldQuestion::kNothing) return {};
+    if (label == FoldQuestion::kEndsHere) {
+      return Join({{Group{{OptionSet::kNone}, 1}, {question_.count(path, level)}}});
+    }
     if (label != FoldQuestion::kLookBelow) return {true, label, {question_.count(path, level)}};
     std::vector<int> all;
     std::map<int, Part> parts;  // by shape
@@ -78,18 +83,18 @@ class Folder {
       AddTo(part.counts, folded.counts);
     }
     if (all.empty()) return {.exists = false};
-    return Join(parts, all);
-  }
-
-  Folded Join(std::map<int, Part>& parts, const std::vector<int>& all) {
     if (parts.empty()) return {};
-    std::map<Group, std::vector<int>> groups;
+    Groups groups;
     for (auto& [shape, part] : parts) {
       groups.emplace(Group{MakeSet(std::move(part.entries), all), shape}, std::move(part.counts));
     }
+    return Join(groups);
+  }
+
+  Folded Join(const Groups& groups) {
     const Group& first = groups.begin()->first;
     if (first.options.kind == OptionSet::kEvery && first.shape > 0) {
-      return {true, first.shape, std::move(groups.begin()->second)};
+      return {true, first.shape, groups.begin()->second};
     }
     std::vector<Group> shape;
     Folded folded;

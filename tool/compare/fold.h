@@ -11,10 +11,10 @@
 
 // The options of one level that a line is about.
 struct OptionSet {
-  enum Kind { kEvery, kOnly, kExcept };
+  enum Kind { kEvery, kOnly, kExcept, kNone };
 
   Kind kind = kEvery;
-  std::vector<int> entries{};  // these alone, or all but these
+  std::vector<int> entries{};  // these alone, or all but these; none where paths end above
 
   bool operator<(const OptionSet& other) const {
     return std::tie(kind, entries) < std::tie(other.kind, other.entries);
@@ -30,11 +30,12 @@ struct FoldedPaths {
 struct FoldQuestion {
   static constexpr int kNothing = 0;     // no line is about the path
   static constexpr int kLookBelow = -1;  // the paths that it begins have labels
+  static constexpr int kEndsHere = -2;   // a line tells that nothing is below it, labelled 1
 
   // Whether there is such a path: "every" means every one of those, except where a path is to be
   // looked at below and nothing is there.
   std::function<bool(const PathPair& path)> exists;
-  // What is to be told of a path of so many options: kNothing, kLookBelow or a positive number.
+  // What is to be told of a path of so many options: one of these, or a positive number.
   std::function<int(const PathPair& path, std::size_t level)> label;
   // As how many the path counts.
   std::function<int(const PathPair& path, std::size_t level)> count = [](const PathPair&,

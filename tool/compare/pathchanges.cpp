@@ -19,6 +19,8 @@ class PathEnds {
   PathEnds(const PathKind& kind, bool areWhole)
       : shortest_(kind.levels.size() - (kind.isJob ? 0 : 1)), areWhole_(areWhole) {}
 
+  bool AreWhole() const { return areWhole_; }
+
   // How many of them begin with the path, which has so many options.
   int Count(const PathPair& path, Side side, std::size_t level) const {
     if (path.*side == nullptr) return 0;
@@ -52,8 +54,11 @@ std::vector<FoldedPaths> Missing(const PathPair& root, Side side, Side other,
   question.label = [&](const PathPair& path, std::size_t level) {
     constexpr int kMissing = 1;
     if (ends.Count(path, side, level) == 0) return FoldQuestion::kNothing;
-    if (path.*other == nullptr || Ends(path.*side) != Ends(path.*other)) return kMissing;
-    return Ends(path.*side) ? FoldQuestion::kNothing : FoldQuestion::kLookBelow;
+    if (path.*other == nullptr) return kMissing;
+    if (Ends(path.*side) == Ends(path.*other)) {
+      return Ends(path.*side) ? FoldQuestion::kNothing : FoldQuestion::kLookBelow;
+    }
+    return Ends(path.*side) && ends.AreWhole() ? FoldQuestion::kEndsHere : kMissing;
   };
   question.count = [&](const PathPair& path, std::size_t level) {
     return ends.Count(path, side, level);
@@ -177,6 +182,7 @@ int CountOf(const std::vector<FoldedPaths>& lines) {
 
 std::string Tell(const OptionSet& options, const std::vector<std::string>& names) {
   constexpr std::size_t kMostNamed = 4;
+  if (options.kind == OptionSet::kNone) return "none";
   std::string text = options.kind == OptionSet::kOnly ? "" : "every";
   if (options.kind == OptionSet::kExcept) text += " but ";
   for (std::size_t i = 0; i < options.entries.size(); ++i) {
