@@ -72,7 +72,7 @@ void Mutate(const pugi::xml_node& root, Random& random) {
   if (kind == 1 && element != root) parent.insert_copy_after(element, element);
   if (kind == 2 && element != root) parent.prepend_copy(other);
   if (kind == 3) element.set_name(Choose(random, kNames));
-  if (kind == 4) element.append_child(pugi::node_comment).set_value("by hand");
+  if (kind == 4) element.prepend_child(pugi::node_pi).set_name(Choose(random, kNames));
   if (kind > 4 && kind < 7 && isLeaf) MutateText(element, random);
   if (kind > 6) MutateAttribute(element, random);
 }

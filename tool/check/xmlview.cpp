@@ -18,6 +18,13 @@ pugi::xml_node NextUnder(pugi::xml_node node, const pugi::xml_node& top) {
   return node != top ? node.next_sibling() : pugi::xml_node();
 }
 
+// The node itself when it is an element of that name, else the next sibling that is one. The parser
+// would also find an instruction, which has a name as well.
+pugi::xml_node ElementNamed(std::string_view name, pugi::xml_node node) {
+  while (node && (!IsElement(node) || node.name() != name)) node = node.next_sibling();
+  return node;
+}
+
 }  // namespace
 
 Source::Source(std::string_view text) : text_(text), lines_{0} {
@@ -69,6 +76,14 @@ Element Element::Parent() const {
 Element Element::First() const { return {ElementFrom(node_.first_child()), source_}; }
 
 Element Element::Next() const { return {ElementFrom(node_.next_sibling()), source_}; }
+
+Element Element::First(const char* name) const {
+  return {ElementNamed(name, node_.first_child()), source_};
+}
+
+Element Element::Next(const char* name) const {
+  return {ElementNamed(name, node_.next_sibling()), source_};
+}
 
 std::string Element::Text() const { return std::string(View(OwnText(node_))); }
 

@@ -83,8 +83,8 @@ class Element {
   // Going through child elements: all of them, or those of one name.
   Element First() const;
   Element Next() const;
-  Element First(const char* name) const { return {node_.child(name), source_}; }
-  Element Next(const char* name) const { return {node_.next_sibling(name), source_}; }
+  Element First(const char* name) const;
+  Element Next(const char* name) const;
 
   Attribute Find(const char* name) const { return Wrap(node_.attribute(name)); }
   Attribute FirstAttribute() const { return Wrap(node_.first_attribute()); }
