@@ -14,7 +14,7 @@ namespace {
 using Json = nlohmann::json;
 
 // Places and words, one row for each kind of message that the examples of the page don't show. A
-// quotation mark is written as `.
+// quotation mark is written as `, and much of a long name as ~.
 struct MessageRow {
   const char *mended, *found, *message, *hint;
 };
@@ -60,10 +60,17 @@ constexpr MessageRow kMessages[] = {
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",
      "spell it the same way everywhere"},
+    {"<Ink ID=`1`", "<Ink xmlns:a=`u` a:b=`1`/><Ink a:b=`1` ID=`1`",
+     "39:36: warning: nobody reads the attribute a:b in Ink [attribute-unknown]", "take it out"},
+    {"<Value>600</Value>", "<~~/><Value>600</Value>",
+     "19:33: warning: nobody reads ~... in ResolutionDef [element-unknown]", "take it out"},
 };
 
 std::string WithQuotes(std::string text) {
   std::replace(text.begin(), text.end(), '`', '"');
+  for (std::size_t at = 0; (at = text.find('~')) != std::string::npos;) {
+    text.replace(at, 1, std::string(60, 'x'));
+  }
   return text;
 }
 

@@ -3,6 +3,8 @@
 #include <map>
 #include <string_view>
 
+#include "tool/check/findings.h"
+
 namespace check {
 
 std::string ElementPaths::Of(const Element& element) {
@@ -12,7 +14,7 @@ std::string ElementPaths::Of(const Element& element) {
 }
 
 std::string ElementPaths::StepOf(const Element& element) {
-  std::string name = element.Name();
+  std::string name = Brief(element.Name());
   const Element parent = element.Parent();
   if (!parent) return name;
   if (numbers_.find(element.Identity()) == numbers_.end()) NumberChildren(parent);

@@ -8,7 +8,8 @@
 namespace check {
 
 // Tells paths of elements, as in "/QDF_Info/Definition/MediaList/MediaDef[2]": an element has a
-// number, from 1, among the children of its name when it isn't the only one.
+// number, from 1, among the children of its name when it isn't the only one. Long names are
+// shortened.
 class ElementPaths {
  public:
   std::string Of(const Element& element);

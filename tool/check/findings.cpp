@@ -5,19 +5,16 @@
 
 namespace check {
 
-std::string Quote(std::string_view text) {
+std::string Brief(std::string_view text) {
   constexpr std::size_t kLongest = 60;
-  std::string quoted(1, '"');
-  if (text.size() <= kLongest) {
-    quoted += text;
-  } else {
-    // Not within a character of several bytes.
-    std::size_t end = kLongest;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
-    quoted.append(text.substr(0, end)).append("...");
-  }
-  return quoted += '"';
+  if (text.size() <= kLongest) return std::string(text);
+  // Not within a character of several bytes.
+  std::size_t end = kLongest;
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+  return std::string(text.substr(0, end)) + "...";
 }
+
+std::string Quote(std::string_view text) { return '"' + Brief(text) + '"'; }
 
 std::string Count(std::size_t number, const std::string& noun) {
   return std::to_string(number) + ' ' + noun + (number == 1 ? "" : "s");

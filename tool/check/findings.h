@@ -23,7 +23,10 @@ struct Finding {
   std::string hint;     // what to do about it, without a full stop as well
 };
 
-// A text for a message: in quotation marks, and shortened when it is long.
+// A text or name for a message, shortened when it is long.
+std::string Brief(std::string_view text);
+
+// The same in quotation marks.
 std::string Quote(std::string_view text);
 
 // "3 elements", "1 element".

@@ -1,6 +1,7 @@
 // Elements, attributes and texts that nobody reads.
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "tool/check/grammar.h"
 #include "tool/check/nearest.h"
@@ -10,20 +11,36 @@ namespace check {
 
 namespace {
 
-std::string In(const Element& element) { return std::string(" in ") + element.Name(); }
+std::string In(const Element& element) { return " in " + Brief(element.Name()); }
 
-// Attributes that speak to XML tools and never to the reader: those of XML itself and those of a
-// namespace that is declared.
-bool IsForXMLTools(const Element& element, std::string_view name) {
-  const std::size_t colon = name.find(':');
-  if (colon == std::string_view::npos) return name == "xmlns";
-  const std::string_view prefix = name.substr(0, colon);
-  if (prefix == "xmlns" || prefix == "xml") return true;
-  const std::string declaration = "xmlns:" + std::string(prefix);
-  Element at = element;
-  while (at && !at.Find(declaration.c_str())) at = at.Parent();
-  return static_cast<bool>(at);
-}
+// The prefixes of namespaces that are declared where an examination stands.
+class Prefixes {
+ public:
+  void Enter(const Element& element) { Count(element, 1); }
+  void Leave(const Element& element) { Count(element, -1); }
+
+  // Whether an attribute speaks to XML tools and never to the reader: one of XML itself or of a
+  // namespace that is declared.
+  bool IsForXMLTools(std::string_view name) const {
+    const std::size_t colon = name.find(':');
+    if (colon == std::string_view::npos) return name == "xmlns";
+    const std::string_view prefix = name.substr(0, colon);
+    if (prefix == "xmlns" || prefix == "xml") return true;
+    const auto declared = declared_.find(prefix);
+    return declared != declared_.end() && declared->second > 0;
+  }
+
+ private:
+  void Count(const Element& element, int step) {
+    constexpr std::string_view kDeclares = "xmlns:";
+    for (Attribute at = element.FirstAttribute(); at; at = at.Next()) {
+      const std::string_view name = at.Name();
+      if (name.starts_with(kDeclares)) declared_[name.substr(kDeclares.size())] += step;
+    }
+  }
+
+  std::unordered_map<std::string_view, int> declared_;  // how often around this place
+};
 
 class StructureRules {
  public:
@@ -33,7 +50,7 @@ class StructureRules {
     const Form& form = grammar_.Root();
     if (root.Name() != form.name) {
       findings_.Add(Code::kRootName, root,
-                    std::string("nobody looks at the name of the root element, ") + root.Name(),
+                    "nobody looks at the name of the root element, " + Brief(root.Name()),
                     "write " + std::string(form.name) + ", as the library does");
     }
     Examine(root, form);
@@ -41,6 +58,7 @@ class StructureRules {
 
  private:
   void Examine(const Element& element, const Form& form) {
+    prefixes_.Enter(element);
     ExamineAttributes(element, form);
     if (&form != &text_ && element.HasText()) {
       findings_.Add(Code::kTextUnread, element, element.TextPlace(),
@@ -66,6 +84,7 @@ class StructureRules {
       if (form.hasEntries && child.Name() != known->name) TellEntryName(child, *known);
       Examine(child, known->form != nullptr ? *known->form : text_);
     }
+    prefixes_.Leave(element);
   }
 
   void ExamineAttributes(const Element& element, const Form& form) {
@@ -73,7 +92,7 @@ class StructureRules {
     for (Attribute at = element.FirstAttribute(); at; at = at.Next()) {
       const std::string_view name = at.Name();
       if (std::find(known.begin(), known.end(), name) != known.end() ||
-          IsForXMLTools(element, name)) {
+          prefixes_.IsForXMLTools(name)) {
         continue;
       }
       std::string hint = DidYouMean(name, known);
@@ -82,13 +101,13 @@ class StructureRules {
       }
       if (hint.empty()) hint = "take it out";
       findings_.Add(Code::kAttributeUnknown, element, at.NamePlace(),
-                    "nobody reads the attribute " + std::string(name) + In(element), hint);
+                    "nobody reads the attribute " + Brief(name) + In(element), hint);
     }
   }
 
   void TellUnknown(const Element& child, const Form& form) {
     const std::string name = child.Name();
-    std::string message = "nobody reads " + name + In(child.Parent());
+    std::string message = "nobody reads " + Brief(name) + In(child.Parent());
     const std::size_t under = child.CountUnder();
     if (under > 0) message += ", nor what is under it (" + Count(under, "element") + ')';
     findings_.Add(Code::kElementUnknown, child, message, HintForUnknown(name, form));
@@ -110,13 +129,15 @@ class StructureRules {
   }
 
   void TellEntryName(const Element& entry, const Form::Child& known) {
-    findings_.Add(Code::kEntryName, entry,
-                  "nobody looks at the name of an entry" + In(entry.Parent()) + ", " + entry.Name(),
-                  "write " + std::string(known.name) + ", as the library does");
+    findings_.Add(
+        Code::kEntryName, entry,
+        "nobody looks at the name of an entry" + In(entry.Parent()) + ", " + Brief(entry.Name()),
+        "write " + std::string(known.name) + ", as the library does");
   }
 
   Findings& findings_;
   Grammar grammar_;
+  Prefixes prefixes_;
   Form text_;  // of an element that holds only text
 };
 
