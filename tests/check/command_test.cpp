@@ -64,6 +64,10 @@ constexpr MessageRow kMessages[] = {
      "39:36: warning: nobody reads the attribute a:b in Ink [attribute-unknown]", "take it out"},
     {"<Value>600</Value>", "<~~/><Value>600</Value>",
      "19:33: warning: nobody reads ~... in ResolutionDef [element-unknown]", "take it out"},
+    {"<Dither ", "<Dither Name=`~~` RipResolution=`600`/><Dither ",
+     "46:56: warning: the RIP resolution of `~...` is never found: the name is longer than 64 "
+     "bytes [name-cut]",
+     "use a shorter name"},
 };
 
 std::string WithQuotes(std::string text) {

@@ -186,7 +186,6 @@ class ColorModeRules {
 
     void ExamineDither(const Given& name) {
       CheckNameBlanks(name, findings_);
-      CheckNameFits(name, sizeof DitherResolutionInfo::Name, findings_);
       if (!supportsAll_) rules_.dithers_.Add(name, name.text);
       if (IsAll(name.text)) all_ = name.element;
       const auto [former, isNew] = listed_.emplace(name.element.Find("Name").Value(), name.element);
@@ -203,7 +202,7 @@ class ColorModeRules {
     void ExamineRip(const Given& name) {
       const Given rip = GivenAttribute(name.element, name.element.Find("RipResolution"));
       if (!rip.text.empty()) {
-        if (CheckResolution(rip, findings_)) return;
+        if (CheckResolution(rip, findings_)) return ExamineRipName(name);
         findings_.Add(Code::kRipUnusable, rip.element, rip.place,
                       "the RipResolution " + Quote(rip.text) + " of " + Quote(name.text) +
                           " is lost: it isn't positive",
@@ -216,6 +215,17 @@ class ColorModeRules {
       } else {
         if (withoutRip_++ == 0) firstWithoutRip_ = name.element;
       }
+    }
+
+    // The name is listed whole, but its RIP resolution is kept under the beginning of it.
+    void ExamineRipName(const Given& name) {
+      constexpr std::size_t kLongest = sizeof DitherResolutionInfo::Name;
+      if (name.text.size() <= kLongest) return;
+      findings_.Add(Code::kNameCut, name.element, name.place,
+                    "the RIP resolution of " + Quote(name.text) +
+                        " is never found: the name is longer than " + std::to_string(kLongest) +
+                        " bytes",
+                    "use a shorter name");
     }
 
     // Once for the list: in a document that the library wrote no dither has one.
