@@ -60,6 +60,9 @@ constexpr MessageRow kMessages[] = {
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",
      "spell it the same way everywhere"},
+    {"<Media ID=`2`", "<Media ID=` `",
+     "51:18: warning: this Media vanishes with the 4 elements under it: its ID is empty [no-ids]",
+     "correct it, or take the element out"},
     {"<Ink ID=`1`", "<Ink xmlns:a=`u` a:b=`1`/><Ink a:b=`1` ID=`1`",
      "39:36: warning: nobody reads the attribute a:b in Ink [attribute-unknown]", "take it out"},
     {"<Value>600</Value>", "<~~/><Value>600</Value>",

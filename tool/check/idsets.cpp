@@ -154,10 +154,12 @@ ADWordArray CheckIDs(const IDSetUse& use, Findings& findings) {
 }
 
 std::string WhyNoIDs(const IDSetUse& use) {
-  const std::string text = use.element.Find(use.attribute).Value();
+  const Attribute given = use.element.Find(use.attribute);
+  const std::string text = given.Value();
   const ListForm& form = FormOf(use.kind);
   const std::string attribute = use.attribute;
-  if (Trimmed(text).empty()) return "it has no " + attribute;
+  if (!given) return "it has no " + attribute;
+  if (Trimmed(text).empty()) return "its " + attribute + " is empty";
   if (use.list.entries.empty()) return std::string(form.section) + " has no entry";
   const std::string its = "its " + attribute + ' ' + Quote(text);
   if (SplitIDList(text).exclusion) return its + " excludes all " + Plural(use.kind);
