@@ -81,6 +81,14 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
   }
 }
 
+TEST(Codes, OfAWriteAreAboutWhatTheReaderHolds) {
+  std::string text = ReadCodeTables().document;
+  text.replace(text.find("595,842"), 7, "nan,inf");
+  text.replace(text.find("\"600\""), 5, "\"0\"");
+  EXPECT_THAT(CodesIn(text, {true, false}),
+              testing::Not(testing::Contains(testing::AnyOf("write-decimals", "write-rip"))));
+}
+
 TEST(Codes, BytesThatAreNoUTF8) {
   const CodeTables tables = ReadCodeTables();
   const struct {

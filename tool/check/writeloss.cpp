@@ -2,6 +2,7 @@
 // the reader drops already is told by the other rules.
 
 #include <algorithm>
+#include <cmath>
 #include <unordered_map>
 
 #include "qdf/definition/records.h"
@@ -19,6 +20,14 @@ constexpr const char* kKeep = "keep this file apart from the written one";
 
 bool IsGiven(const Element& element, const char* attribute) {
   return *element.Find(attribute).Value() != '\0';
+}
+
+// Whether the reader keeps the RIP resolution of a dither.
+bool HasRip(const Element& dither) {
+  double x = 0.0;
+  double y = 0.0;
+  ReadResolutionValue(dither.Find("RipResolution").Value(), x, y);
+  return x > 0.0 && y > 0.0;
 }
 
 // Whether another entry is preselected without the default: the first of the list, or of those of
@@ -136,7 +145,7 @@ class WriteLossRules {
     ScanDoubles(given.text.c_str(), std::array{&numbers[0], &numbers[1], &numbers[2], &numbers[3]});
     const bool kept = std::all_of(std::begin(numbers), std::end(numbers), [](double number) {
       AString written;
-      return ReadDouble(View(written.Format("%f", number))) == number;
+      return std::isnan(number) || ReadDouble(View(written.Format("%f", number))) == number;
     });
     if (kept) return;
     findings_.Add(Code::kWriteDecimals, element, given.place,
@@ -202,7 +211,7 @@ class WriteLossRules {
     for (Element each = list.First("Dither"); each; each = each.Next("Dither")) {
       const std::string_view name = each.Find("Name").Value();
       if (name.empty()) continue;
-      if (IsGiven(each, "RipResolution")) ++rips;
+      if (HasRip(each)) ++rips;
       all = all || EqualNoCase(name, "ALL");
       if (std::any_of(name.begin(), name.end(), [](char c) { return UpperChar(c) != c; })) ++small;
     }
