@@ -48,15 +48,17 @@ TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
       {},
       {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""}, {"ID=\"40,41\"", "ID=\"41,40\""}},
       {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", ""},
-       {"<Ink ID=\"2\"><Media ID=\"13\">", "<Ink ID=\"2\"><Media ID=\"10\"/><Media ID=\"13\">"}},
+       {"</Control_Definition>", "<Ink ID=\"2\"><Media ID=\"10\"/></Ink></Control_Definition>"}},
   };
   EXPECT_EQ(With(Edited(rows[0])), (Outcome{0, Head("equal in meaning")}));
   EXPECT_EQ(With(Edited(rows[1])), (Outcome{0, Head("equal in meaning")}));
-  // The medium was behind the node that is asked.
+  // One medium was behind the node that is asked, the other one is now; nothing follows that.
   EXPECT_EQ(With(Edited(rows[2])), (Outcome{1, Head("different") + R"(
-Settings of combinations (1)
-  Setting               Before  After  For          How many
-  Offered step by step  no      yes    Matte Black         1
+Settings of combinations (3)
+  Setting               Before  After         For                        How many
+  Default media         Plain   Glossy (gl2)  Matte Black                       1
+  Offered step by step  yes     no            Matte Black; Plain                1
+  Offered step by step  no      yes           Matte Black; Glossy (gl2)         1
 )"}));
   EXPECT_EQ(With(Edited({{"<ID>12</ID>", "<ID>112</ID>"}, {"10,11,12", "10,11,112"}})),
             (Outcome{0, Head("equal in meaning, but some ids differ") + R"(

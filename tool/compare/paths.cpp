@@ -19,13 +19,15 @@ constexpr PathLevel kJobPath[] = {
     {"colorMode", "Colour mode", kColorModes},
 };
 
+// Whether an option is listed behind those before it; all inks are.
+constexpr Trait kOffered = {"offered", "Offered step by step"};
 constexpr Trait kDefaultInk[] = {{"defaultInk", "Default ink"}};
-constexpr Trait kDefaultMedia[] = {{"defaultMedia", "Default media"}};
-constexpr Trait kDefaultPrintMode[] = {{"defaultPrintMode", "Default print mode"}};
-constexpr Trait kDefaultResolution[] = {{"defaultResolution", "Default resolution"}};
-constexpr Trait kDefaultColorMode[] = {{"defaultColorMode", "Default colour mode"}};
+constexpr Trait kInkTraits[] = {kOffered, {"defaultMedia", "Default media"}};
+constexpr Trait kMediaTraits[] = {kOffered, {"defaultPrintMode", "Default print mode"}};
+constexpr Trait kPrintModeTraits[] = {kOffered, {"defaultResolution", "Default resolution"}};
+constexpr Trait kResolutionTraits[] = {kOffered, {"defaultColorMode", "Default colour mode"}};
 constexpr Trait kColorModeTraits[] = {
-    {"offered", "Offered step by step"},
+    kOffered,
     {"printerSpecificText", "Printer specific text"},
     {"profiles", "Profiles"},
     {"defaultProfile", "Default profile"},
@@ -33,9 +35,8 @@ constexpr Trait kColorModeTraits[] = {
     {"defaultDither", "Default dither"},
     {"ripResolutions", "RIP resolutions"},
 };
-constexpr std::span<const Trait> kJobTraits[] = {kDefaultInk,       kDefaultMedia,
-                                                 kDefaultPrintMode, kDefaultResolution,
-                                                 kDefaultColorMode, kColorModeTraits};
+constexpr std::span<const Trait> kJobTraits[] = {
+    kDefaultInk, kInkTraits, kMediaTraits, kPrintModeTraits, kResolutionTraits, kColorModeTraits};
 
 constexpr PathLevel kMediaSourcePath[] = {
     {"mediaSource", "Media source", kMediaSources},
@@ -58,7 +59,7 @@ constexpr PathKind kKinds[] = {
 // The nodes for an option below those of a path, in the order of a search.
 struct Below {
   std::vector<const CQDFNode*> nodes;
-  bool isOffered = false;  // by the first node of the path, which decides what is listed
+  bool isOffered = false;  // by the first node before it, which decides what is listed
 };
 
 Value TextAt(const AStringArray& texts, int index) {
@@ -128,7 +129,7 @@ class PathReader {
     if (level == kind_.levels.size()) return true;
     std::map<int, Below> below;
     for (const CQDFNode* node : ends.nodes) {
-      if (!Sort(*node, level, ends.isOffered && node == &first, below)) return false;
+      if (!Sort(*node, level, node == &first, below)) return false;
     }
     path.children.reserve(below.size());
     for (const auto& [entry, children] : below) {
@@ -158,9 +159,11 @@ class PathReader {
   }
 
   Traits TraitsOf(const CQDFNode& node, std::size_t level, bool isOffered) const {
+    if (kind_.isJob && level == 0) return {DefaultOf(node, level)};
+    const Value offered = isOffered ? "yes" : "no";
     if (kind_.isJob) {
-      return level < kind_.levels.size() ? Traits{DefaultOf(node, level)}
-                                         : ColorModeTraits(node, isOffered);
+      return level < kind_.levels.size() ? Traits{offered, DefaultOf(node, level)}
+                                         : ColorModeTraits(node, offered);
     }
     constexpr std::size_t kSizeLevel = 2;
     if (level > kSizeLevel) return {};
@@ -205,7 +208,7 @@ class PathReader {
     for (int i = 0; i < node.Children.GetSize(); ++i) takeAll(*ChildAt(node, i));
   }
 
-  Traits ColorModeTraits(const CQDFNode& node, bool isOffered) const {
+  Traits ColorModeTraits(const CQDFNode& node, const Value& offered) const {
     const CQDFNode none{};
     const auto leaf = [&](int place) -> const CQDFNode& {
       return place < node.Children.GetSize() ? *ChildAt(node, place) : none;
@@ -214,7 +217,7 @@ class PathReader {
       return place < node.Children.GetSize() ? TextAt(texts, leaf(place).Default) : Value();
     };
     const List profiles = NamesOf(leaf(kProfileLeaf), members_.ICCProfileList);
-    return {isOffered ? "yes" : "no",
+    return {offered,
             TextAt(members_.OEMInfoList, node.Default),
             profiles,
             Accepted(preset(kProfileLeaf, members_.ICCProfileList), profiles),
