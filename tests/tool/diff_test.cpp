@@ -46,7 +46,9 @@ std::string Head(const std::string& result) {
 TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
   const std::vector<Edit> rows[] = {
       {},
-      {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""}, {"ID=\"40,41\"", "ID=\"41,40\""}},
+      {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""},
+       {"ID=\"40,41\"", "ID=\"41,40\""},
+       {"</Control_Definition>", "<Ink ID=\"3\"/></Control_Definition>"}},
       {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", ""},
        {"</Control_Definition>", "<Ink ID=\"2\"><Media ID=\"10\"/></Ink></Control_Definition>"}},
   };

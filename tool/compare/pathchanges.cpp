@@ -15,16 +15,18 @@ bool Ends(const PathNode* path) { return path->children.empty(); }
 // Paths that lead to the end, or those that stop on the way there.
 class PathEnds {
  public:
-  // Media sources needn't have margins.
+  // Media sources needn't have margins. All inks are listed: one alone is no path to speak of.
   PathEnds(const PathKind& kind, bool areWhole)
-      : shortest_(kind.levels.size() - (kind.isJob ? 0 : 1)), areWhole_(areWhole) {}
+      : least_(kind.isJob ? 2 : 1),
+        shortest_(kind.levels.size() - (kind.isJob ? 0 : 1)),
+        areWhole_(areWhole) {}
 
   bool AreWhole() const { return areWhole_; }
 
   // How many of them begin with the path, which has so many options.
   int Count(const PathPair& path, Side side, std::size_t level) const {
     if (path.*side == nullptr) return 0;
-    if (Ends(path.*side)) return level > 0 && (level >= shortest_) == areWhole_ ? 1 : 0;
+    if (Ends(path.*side)) return level >= least_ && (level >= shortest_) == areWhole_ ? 1 : 0;
     return SumBelow(path, [&](const PathPair& child) { return Count(child, side, level + 1); });
   }
 
@@ -42,6 +44,7 @@ class PathEnds {
                            [&](int sum, const PathPair& child) { return sum + count(child); });
   }
 
+  std::size_t least_;     // options of a path
   std::size_t shortest_;  // that leads to the end
   bool areWhole_;
 };
