@@ -48,6 +48,8 @@ TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
       {},
       {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""},
        {"ID=\"40,41\"", "ID=\"41,40\""},
+       {"<Dither Name=\"Coarse\"",
+        "<Dither Name=\"Fine\" RipResolution=\"72\"/><Dither Name=\"Coarse\""},
        {"</Control_Definition>", "<Ink ID=\"3\"/></Control_Definition>"}},
       {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", ""},
        {"</Control_Definition>", "<Ink ID=\"2\"><Media ID=\"10\"/></Ink></Control_Definition>"}},

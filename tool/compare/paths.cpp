@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <unordered_set>
 
 #include "qdf/control/ditherlist.h"
 #include "qdf/core/documentmembers.h"
@@ -94,12 +95,15 @@ Value Accepted(const Value& profile, const List& profiles) {
   return isAllowed ? profile : Value();
 }
 
+// Of several for one dither only the first is ever found.
 List RipResolutionsOf(const CQDFNode& leaf, const APtrArray& records) {
   List list;
+  std::unordered_set<std::string_view> told;
   for (const std::uint32_t id : leaf.IDs) {
     const int index = static_cast<int>(id);
     if (index < 0 || index >= records.GetSize()) continue;
     const auto& record = *static_cast<const DitherResolutionInfo*>(records.GetAt(index));
+    if (!told.insert(FieldText(record.Name)).second) continue;
     list.emplace_back(std::string(FieldText(record.Name)) + ' ' + LineText(record.XResolution) +
                       'x' + LineText(record.YResolution));
   }
