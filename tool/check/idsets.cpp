@@ -163,6 +163,11 @@ std::string WhyNoIDs(const IDSetUse& use) {
   if (use.list.entries.empty()) return std::string(form.section) + " has no entry";
   const std::string its = "its " + attribute + ' ' + Quote(text);
   if (SplitIDList(text).exclusion) return its + " excludes all " + Plural(use.kind);
+  bool isNumber = false;
+  ForEachIDPiece(SplitIDList(text).listed, [&](std::string_view piece, std::uint32_t) {
+    isNumber = isNumber || IsWholeNumber(piece);
+  });
+  if (!isNumber) return its + " holds no whole number";
   return its + " names no " + form.entry + " of " + form.section;
 }
 

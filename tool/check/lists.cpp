@@ -113,9 +113,9 @@ class ListRules {
     const Element element = entry.First("ID");
     const Element place = element ? element : entry;
     findings_.Add(Code::kIDTwice, place, element ? element.TextPlace() : entry.NamePlace(),
-                  This() + " is dropped: " + Quote(stands.name) + " on " +
-                      findings_.LineOf(stands.element) + " has the id " + std::to_string(id) +
-                      " already",
+                  This() + " is dropped: " + (stands.name.empty() ? "that" : Quote(stands.name)) +
+                      " on " + findings_.LineOf(stands.element) + " has the id " +
+                      std::to_string(id) + " already",
                   "give it an ID of its own");
   }
 
