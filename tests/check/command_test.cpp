@@ -60,16 +60,10 @@ constexpr MessageRow kMessages[] = {
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",
      "spell it the same way everywhere"},
-    {"<Media ID=`2`", "<Media ID=` `",
-     "51:18: warning: this Media vanishes with the 4 elements under it: its ID is empty [no-ids]",
-     "correct it, or take the element out"},
     {"<Media ID=`2`", "<Media ID=`Matte`",
      "51:18: warning: this Media vanishes with the 4 elements under it: its ID `Matte` holds no "
      "whole number [no-ids]",
      "correct it, or take the element out"},
-    {"<ID>1</ID><DisplayName>Plain</DisplayName>", "<ID>1</ID></MediaDef><MediaDef><ID>1</ID>",
-     "11:52: warning: this medium is dropped: that on line 11 has the id 1 already [id-twice]",
-     "give it an ID of its own"},
     {"<Ink ID=`1`", "<Ink xmlns:a=`u` a:b=`1`/><Ink a:b=`1` ID=`1`",
      "39:36: warning: nobody reads the attribute a:b in Ink [attribute-unknown]", "take it out"},
     {"<Value>600</Value>", "<~~/><Value>600</Value>",

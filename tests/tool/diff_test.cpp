@@ -58,11 +58,14 @@ TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
   EXPECT_EQ(With(Edited(rows[1])), (Outcome{0, Head("equal in meaning")}));
   // One medium was behind the node that is asked, the other one is now; nothing follows that.
   EXPECT_EQ(With(Edited(rows[2])), (Outcome{1, Head("different") + R"(
-Settings of combinations (3)
-  Setting               Before  After         For                        How many
-  Default media         Plain   Glossy (gl2)  Matte Black                       1
-  Offered step by step  yes     no            Matte Black; Plain                1
-  Offered step by step  no      yes           Matte Black; Glossy (gl2)         1
+Dead ends gone (1)
+  Ink          Media  How many
+  Matte Black  Plain         1
+
+Settings of combinations (2)
+  Setting               Before  After         For          How many
+  Default media         Plain   Glossy (gl2)  Matte Black         1
+  Offered step by step  no      yes           Matte Black         1
 )"}));
   EXPECT_EQ(With(Edited({{"<ID>12</ID>", "<ID>112</ID>"}, {"10,11,12", "10,11,112"}})),
             (Outcome{0, Head("equal in meaning, but some ids differ") + R"(

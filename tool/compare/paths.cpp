@@ -139,6 +139,10 @@ class PathReader {
     for (const auto& [entry, children] : below) {
       path.children.emplace_back().entry = entry;
       if (!Read(children, level + 1, path.children.back())) return false;
+      // What is neither listed nor leads on is told by no query.
+      const bool isWhole = level + 1 == kind_.levels.size();
+      const bool leadsOn = isWhole || !path.children.back().children.empty();
+      if (!leadsOn && !children.isOffered) path.children.pop_back();
     }
     return true;
   }
