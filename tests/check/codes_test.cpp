@@ -89,6 +89,12 @@ TEST(Codes, OfAWriteAreAboutWhatTheReaderHolds) {
               testing::Not(testing::Contains(testing::AnyOf("write-decimals", "write-rip"))));
 }
 
+TEST(Codes, MissNoRipResolutionThatTheSameDitherHasElsewhere) {
+  std::string text = ReadCodeTables().document;
+  text.insert(text.find("<Dither Name"), "<Dither Name=\"Fine\"/>");
+  EXPECT_THAT(CodesIn(text, {}), testing::ElementsAre("dither-twice"));
+}
+
 TEST(Codes, BytesThatAreNoUTF8) {
   const CodeTables tables = ReadCodeTables();
   const struct {

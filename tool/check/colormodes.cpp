@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 #include "qdf/control/ditherlist.h"
 #include "qdf/support/numbers.h"
@@ -202,7 +203,10 @@ class ColorModeRules {
     void ExamineRip(const Given& name) {
       const Given rip = GivenAttribute(name.element, name.element.Find("RipResolution"));
       if (!rip.text.empty()) {
-        if (CheckResolution(rip, findings_)) return ExamineRipName(name);
+        if (CheckResolution(rip, findings_)) {
+          withRip_.insert(name.element.Find("Name").Value());
+          return ExamineRipName(name);
+        }
         findings_.Add(Code::kRipUnusable, rip.element, rip.place,
                       "the RipResolution " + Quote(rip.text) + " of " + Quote(name.text) +
                           " is lost: it isn't positive",
@@ -213,7 +217,7 @@ class ColorModeRules {
                       "has no RipResolution",
                       "give it a RipResolution, or take it out");
       } else {
-        if (withoutRip_++ == 0) firstWithoutRip_ = name.element;
+        withoutRip_.push_back(name.element);
       }
     }
 
@@ -230,12 +234,16 @@ class ColorModeRules {
 
     // Once for the list: in a document that the library wrote no dither has one.
     void TellMissing() {
-      if (withoutRip_ == 0) return;
+      std::erase_if(withoutRip_, [&](const Element& dither) {
+        return withRip_.find(dither.Find("Name").Value()) != withRip_.end();
+      });
+      if (withoutRip_.empty()) return;
+      const std::size_t others = withoutRip_.size() - 1;
       const std::string more =
-          withoutRip_ > 1 ? " and " + std::to_string(withoutRip_ - 1) + " more of this list" : "";
+          others > 0 ? " and " + std::to_string(others) + " more of this list" : "";
       findings_.Add(
-          Code::kRipMissing, firstWithoutRip_,
-          "there is no RipResolution for " + Quote(firstWithoutRip_.Find("Name").Value()) + more,
+          Code::kRipMissing, withoutRip_.front(),
+          "there is no RipResolution for " + Quote(withoutRip_.front().Find("Name").Value()) + more,
           "add the resolution at which jobs are rasterised for it");
     }
 
@@ -245,8 +253,8 @@ class ColorModeRules {
     bool supportsAll_ = false;
     Element all_;
     std::unordered_map<std::string_view, Element> listed_;
-    std::size_t withoutRip_ = 0;
-    Element firstWithoutRip_;
+    std::unordered_set<std::string_view> withRip_;
+    std::vector<Element> withoutRip_;
   };
 
   Findings& findings_;
