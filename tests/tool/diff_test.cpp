@@ -206,6 +206,15 @@ Settings of combinations (1)
 )"}));
 }
 
+TEST_F(Diff, ComparesColorantsByTheirPlaces) {
+  const char* gold = "<X IsSpotColor=\"1\" IsPrint=\"0\"><DisplayName>Gold</DisplayName></X>";
+  const std::string first = std::string(gold) + "<X Shape=";
+  const std::string told[] = {With(Edited({{gold, ""}, {"<X Shape=", first.c_str()}})).out,
+                              With(Edited({{"<X IsSpot", "<X Angle=\"45\" IsSpot"}})).out};
+  EXPECT_NE(told[0].find("Colorants: Cyan, Gold becomes Gold, Cyan"), std::string::npos) << told[0];
+  EXPECT_NE(told[1].find("Gold, Angle as a setting: 0 becomes 45"), std::string::npos) << told[1];
+}
+
 TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
   const struct {
     Edit edit;

@@ -95,9 +95,28 @@ void NameEach(std::vector<EntryPair>& pairs, std::string EntryPair::*name,
   }
 }
 
+std::string Names(const List& rows) {
+  std::string names;
+  for (const Value& row : rows) {
+    if (!names.empty()) names += ", ";
+    names += NameOf(*AsObject(row), Detail::kOneName);
+  }
+  return names;
+}
+
+// Parts are handed out by their places, so their order counts.
 void CompareParts(const Field& field, const List& before, const List& after,
                   std::vector<FieldChange>& changes) {
-  for (const EntryPair& part : PairEntries(before, after)) {
+  const std::vector<EntryPair> parts = PairEntries(before, after);
+  bool inOrder = true;
+  const Object* former = nullptr;
+  for (const EntryPair& part : parts) {
+    if (!part.IsInBoth()) continue;
+    inOrder = inOrder && former < part.before;
+    former = part.before;
+  }
+  if (!inOrder) changes.push_back({"", field.key, field.label, Names(before), Names(after)});
+  for (const EntryPair& part : parts) {
     if (!part.IsInBoth()) {
       const auto name = [&](const Object* row) {
         return row != nullptr ? Value(part.name) : Value();
@@ -108,6 +127,18 @@ void CompareParts(const Field& field, const List& before, const List& after,
       changes.push_back({part.name, change.key, change.label, change.before, change.after});
     }
   }
+}
+
+// A colorant's angle goes into a host setting as well, but only where it is written: a default
+// angle that is written makes a difference of its own.
+void CompareHostSetting(const Object& before, const Object& after,
+                        std::vector<FieldChange>& changes) {
+  constexpr const char* kKey = "setting5";
+  const Value* one = before.Find(kKey);
+  const Value* other = after.Find(kKey);
+  if (one == nullptr || other == nullptr || *one == *other) return;
+  if (!(*before.Find("angle") == *after.Find("angle"))) return;
+  changes.push_back({"", kKey, "Angle as a setting", *one, *other});
 }
 
 }  // namespace
@@ -157,5 +188,6 @@ std::vector<FieldChange> CompareFields(const Object& before, const Object& after
       changes.push_back({"", field.key, field.label, field.value, *other});
     }
   }
+  CompareHostSetting(before, after, changes);
   return changes;
 }
