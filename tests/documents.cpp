@@ -140,6 +140,11 @@ std::string DocumentText::Text() const {
         std::pair("ColorModeList", &ColorModeList)}) {
     definition += Element(name, *entries) + "\n";
   }
+  for (const auto& [name, entries] :
+       {std::pair("MediaSourceList", &MediaSourceList), std::pair("MediaSizeList", &MediaSizeList),
+        std::pair("MarginInfoList", &MarginInfoList)}) {
+    if (!entries->empty()) definition += Element(name, *entries);
+  }
   return Element("QDF_Info",
                  Element("Definition", definition + Definition) + Control + SourceControl);
 }

@@ -29,13 +29,17 @@ std::string Control(std::string_view tree, std::string_view leaves = {});
 std::string SourceControl(std::string_view tree);
 
 // A smallest complete document; each member may be replaced. The lists hold what stands inside
-// their elements, `Definition` more children of Definition, the others whole elements.
+// their elements, and three of them aren't there without it, `Definition` more children of
+// Definition, the others whole elements.
 struct DocumentText {
   std::string InkList = Entries("1");
   std::string MediaList = Entries("1");
   std::string PrintModeList = Entries("1");
   std::string ResolutionList = Entries("1");
   std::string ColorModeList = ColorModes("1");
+  std::string MediaSourceList{};
+  std::string MediaSizeList{};
+  std::string MarginInfoList{};
   std::string Definition{};
   std::string Control{};
   std::string SourceControl{};
