@@ -5,42 +5,15 @@
 
 namespace {
 
-constexpr const char* kNames[] = {"",
-                                  "a",
-                                  "A",
-                                  "ab",
-                                  "ALL",
-                                  "all",
-                                  " All\t",
-                                  "b c",
-                                  "&#13;&#10;x",
-                                  "Plain/Paper",
-                                  "&#1;",
-                                  "&lt;&amp;&quot;&gt;]]&gt;",
-                                  "\xC3\xA9",
-                                  "\xFF",
-                                  " "};
-constexpr const char* kNumbers[] = {"600",
-                                    "300x600",
-                                    "0.5",
-                                    "1.25X-3",
-                                    "0.1234567",
-                                    "-0.0000001",
-                                    "1e308",
-                                    "1e999",
-                                    "nan",
-                                    "-inf",
-                                    "8589934592.1234567",
-                                    "x",
-                                    "",
-                                    "2147483648",
-                                    "-99999999999999999999",
-                                    "0x1p3",
-                                    "1e",
-                                    "1,2 3,4"};
-constexpr const char* kIDLists[] = {
-    "ALL", " all ", "-(1,2)",   "ALL-(3)",  "1,2,3",           "(2,1)", "3-1",
-    "",    "-",     "7,,6 ,5x", "4,4,4,(1", "0,1,2,3,4,5,6,7", "9"};
+// Each between "|".
+constexpr const char* kNames =
+    "|a|A|ab|ALL|all| All\t|b c|&#13;&#10;x|Plain/Paper|&#1;|&lt;&amp;&quot;&gt;]]&gt;|\xC3\xA9|"
+    "\xFF| ";
+constexpr const char* kNumbers =
+    "600|300x600|0.5|1.25X-3|0.1234567|-0.0000001|1e308|1e999|nan|-inf|8589934592.1234567|x||"
+    "2147483648|-99999999999999999999|0x1p3|1e|1,2 3,4";
+constexpr const char* kIDLists =
+    "ALL| all |-(1,2)|ALL-(3)|1,2,3|(2,1)|3-1||-|7,,6 ,5x|4,4,4,(1|0,1,2,3,4,5,6,7|9";
 constexpr const char* kLists[] = {"InkList",         "MediaList",     "PrintModeList",
                                   "ResolutionList",  "MediaSizeList", "MarginInfoList",
                                   "MediaSourceList", "ColorModeList"};
@@ -98,13 +71,17 @@ class Maker {
     return " " + name + "=\"" + value + "\"";
   }
 
+  std::string OneOf(const char* texts) {
+    const std::vector<std::string> all = Split(texts);
+    return all[choose_.Below(static_cast<unsigned int>(all.size()))];
+  }
   std::string ID() { return (choose_.Chance(64) ? "-" : "") + std::to_string(choose_.Below(9)); }
-  std::string IDs() { return choose_.Chance(4) ? choose_.OneOf(kIDLists) : ID() + "," + ID(); }
-  std::string Number() { return choose_.OneOf(kNumbers); }
+  std::string IDs() { return choose_.Chance(4) ? OneOf(kIDLists) : ID() + "," + ID(); }
+  std::string Number() { return OneOf(kNumbers); }
   std::string Numbers() { return Number() + choose_.OneOf({" ", ",", "x"}) + Number() + " 1,.5"; }
   // Now and then long enough to fill every field.
   std::string Name() {
-    std::string name = choose_.OneOf(kNames);
+    std::string name = OneOf(kNames);
     if (choose_.Chance(16)) name.append(254 + choose_.Below(4), 'n');
     return name;
   }
