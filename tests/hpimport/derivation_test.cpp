@@ -2,10 +2,12 @@
 
 #include <initializer_list>
 #include <limits>
+#include <random>
 
 #include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/derivecontroltree.h"
 #include "qdf/hpimport/derivelists.h"
+#include "qdf/hpimport/growingtree.h"
 #include "tests/hpimport/derived.h"
 #include "tests/hpimport/resources.h"
 
@@ -65,6 +67,8 @@ TEST(DeriveMedia, KeepTheirIdsByBothNamesAndAreNumberedOnByKind) {
             "1=Glossy/Gloss;2=O/Gloss;10001=N/Gloss*");
   EXPECT_EQ(Media({{.media = "N", .customizable = 1}, {}}, "10001=Gloss/Glossy"),
             "10001=N/Gloss*;10001=Glossy/Gloss");
+  // Of old media with equal names the first counts.
+  EXPECT_EQ(Media({{}}, "9=Gloss/Glossy;7=Gloss/Glossy"), "9=Glossy/Gloss");
   EXPECT_EQ(Media({{}, {.media = "N", .customizable = 1}}, "-5=Gloss/Glossy"),
             "-5=Glossy/Gloss;10001=N/Gloss*");
 }
@@ -147,6 +151,7 @@ TEST(Derive, CountsWhatAListHoldsAlready) {
 
 TEST(DeriveTree, GivesEachResourceAPath) {
   EXPECT_EQ(Tree({{}}), ">1[1>1[1>1[1[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
+  EXPECT_EQ(Tree({{.profile = ""}}), ">1[1>1[1>1[1[1[1,2[>-1;0>-1]]]]]] f.xml  101");
   // All names of a media in one node; below the first ink only; defaults by display name.
   EXPECT_EQ(Tree({{.displayNames = {"a", "HP Proofing Gloss"}, .printQuality = "BEST"},
                   {.quality = "draft", .displayNames = {"a"}, .file = "g.xml"}},
@@ -155,6 +160,11 @@ TEST(DeriveTree, GivesEachResourceAPath) {
   // Qualities with one print quality share a node, media never.
   EXPECT_EQ(Tree({{}, {.quality = "draft"}, {.media = "B"}}),
             ">1[1>1[1>1[1,2[1[1,2[0;0>-1;0;0>-1]]]];2>1[1,2[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
+  // Names are the same in another case, and files without the blanks around them.
+  EXPECT_EQ(Tree({{}, {.quality = "draft", .profile = "P.ICC", .file = " F.XML "}}),
+            ">1[1>1[1>1[1,2[1[1,2[0;0>-1;0;0>-1]]]]]] f.xml p.icc 101");
+  EXPECT_EQ(Tree({{}, {.media = "B", .color = 3}}),
+            ">1[1>1[1>1[1[1[1,2[0;0>-1]]]];2>1[1[1[2,3[0;0>-1]]]]]] f.xml p.icc 101");
   // Two colour modes that share their grey one share a node, the earlier one first.
   EXPECT_EQ(Tree({{}, {.color = 3}, {.black = 4}}),
             ">1[1>1[1>1[1[1[1,2,3,4[0;0>-1;0;0>-1;0;0>-1]]]]]] f.xml p.icc 101");
@@ -187,15 +197,30 @@ TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
   APMQDF document;
   EXPECT_EQ(document.LoadHPResourceInfo(resources, none, none), 0);
   DocumentMembers members(document);
-  EXPECT_EQ(members.MediaList.GetSize(), 0);
-  EXPECT_EQ(DeriveControlTree(resources, none, none, none, none, none, &members.ControlTreeRoot,
-                              members.ICCProfileList, members.OEMInfoList, members.DitherNameList),
-            0);
-  EXPECT_EQ(Dump(members.ControlTreeRoot), "");
   EXPECT_EQ(DeriveMediaList(none, members.MediaList, none), 0);
   EXPECT_EQ(DerivePrintModeList(none, members.PrintModeList), 0);
   EXPECT_EQ(DeriveResolutionList(none, members.ResolutionList), 0);
   EXPECT_EQ(DeriveColorModeList(none, members.ColorModeList), 0);
+}
+
+// The sets overlap, and a set is met again when its child has grown by others.
+TEST(DeriveTree, GrowsFastAsAWalkDoes) {
+  std::minstd_rand random(7);
+  std::vector<ADWordArray> sets(40);
+  for (ADWordArray& ids : sets) {
+    for (auto count = random() % 14; count > 0; --count) {
+      ids.Add(static_cast<std::uint32_t>(random() % 200));
+    }
+  }
+  CQDFNode walked;
+  CQDFNode grown;
+  GrowingTree tree;
+  for (int i = 0; i < 400; ++i) {
+    ADWordArray& ids = sets[random() % sets.size()];
+    FindOrAddChild(FindOrAddChild(&walked, ids), ids);
+    tree.FindOrAddChild(tree.FindOrAddChild(grown, ids), ids);
+    ASSERT_EQ(Dump(grown), Dump(walked)) << i;
+  }
 }
 
 TEST(DeriveTree, FindsByAnySharedIdAndByName) {

@@ -1,14 +1,11 @@
 #include "qdf/hpimport/sweep.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
-#include <filesystem>
 
 #include "qdf/hpimport/removefolder.h"
 #include "qdf/hpimport/sweepverdict.h"
-#include "tests/children.h"
 #include "tests/hpimport/resources.h"
 
 namespace {
@@ -68,14 +65,6 @@ TEST(Sweep, ExaminesAMediaFolderToItsFirstFault) {
   }
 }
 
-TEST(Sweep, TellsWhatIsWrongInsideAFile) {
-  const TempFolder folder;
-  folder.Write("M/q/M_q.xml", "<r>\n<");
-  folder.Write("M/r/M_r.xml", "<r release='one'/>");
-  EXPECT_EQ(ExamineHPFolder(folder.Path("M/q").c_str(), 2).xmlFault.Line, 2);
-  EXPECT_EQ(ExamineHPFolder(folder.Path("M/r").c_str(), 2).release, "one");
-}
-
 TEST(Sweep, DeletesUnsoundMediaFoldersAndNothingElse) {
   const TempFolder folder;
   Make(folder, {"Good/q/Good_q.xml=2", "Old/q/Old_q.xml=1.5", "Old/r/Old_r.xml=2", "Bad/deep/er/x",
@@ -123,26 +112,6 @@ TEST(Sweep, NeverGoesThroughALink) {
   Sweep(folder.Path("link"));
   EXPECT_FALSE(fs::exists(outside.Path("Mine")));
   EXPECT_TRUE(fs::exists(outside.Path("Linked")));
-}
-
-TEST(Sweep, GoesOnAfterWhatItCantDelete) {
-  const TempFolder folder;
-  Make(folder, {"A/kept/file", "A/z/file", "B/file"});
-  const auto allow = [&](const char* name, mode_t mode) {
-    ASSERT_EQ(chmod(folder.Path(name).c_str(), mode), 0);
-  };
-  for (const char* name : {"", "A", "A/z", "B"}) allow(name, 0777);
-  allow("A/kept", 0555);
-  EXPECT_EQ(InChild([&] {
-              DropPrivileges();
-              Sweep(folder.Path());
-              return 0;
-            }),
-            0);
-  EXPECT_TRUE(fs::exists(folder.Path("A/kept/file")));
-  EXPECT_FALSE(fs::exists(folder.Path("A/z")));
-  EXPECT_FALSE(fs::exists(folder.Path("B")));
-  allow("A/kept", 0777);
 }
 
 }  // namespace
