@@ -4,9 +4,7 @@
 
 #include <cmath>
 #include <limits>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "qdf/definition/anewcoloropt.h"
 #include "qdf/definition/readers.h"

@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <vector>
+#include <cstring>
+#include <random>
 
 #include "qdf/core/documentmembers.h"
+#include "qdf/definition/mediasort.h"
 #include "qdf/definition/readers.h"
 #include "qdf/support/ownership.h"
 #include "tests/documents.h"
@@ -57,6 +58,14 @@ void CheckList(const char* list, int (*read)(AXMLTree*, APtrArray&)) {
   EXPECT_EQ(IDs(Records<Record>(records)), "7,0,-2,2147483647,3") << "what was there wins";
   EXPECT_EQ(Str(Records<Record>(records).at(1).DisplayName), "second");
   EXPECT_EQ(read(TreeOf("<a/>").get(), records), 1) << "the list still holds records";
+
+  for (const std::size_t length : {255U, 256U, 300U}) {
+    OwnedItems<Record> named;
+    const std::string name = Element("DisplayName", std::string(length, 'd'));
+    EXPECT_EQ(read(ListTree(list, entry("x", name)).get(), named), 1);
+    EXPECT_EQ(Str(Records<Record>(named).at(0).DisplayName),
+              std::string(std::min<std::size_t>(length, 256), 'd'));
+  }
 }
 
 TEST(DefinitionLists, KeepTheFirstEntryOfAnID) {
@@ -68,46 +77,6 @@ TEST(DefinitionLists, KeepTheFirstEntryOfAnID) {
   CheckList<MarginInfo>("MarginInfoList", ReadMarginInfoList);
   CheckList<MediaSourceInfo>("MediaSourceList", ReadMediaSourceList);
   CheckList<MediaTypeInfo>("MediaList", ReadMediaList);
-}
-
-template <class Record>
-Record First(const APtrArray& list) {
-  return Records<Record>(list).at(0);
-}
-
-// Fields of 256 characters end in zeros only when there is room for one.
-TEST(DefinitionLists, CutNamesAtTheirFields) {
-  for (const std::size_t length : {0U, 255U, 256U, 300U}) {
-    const std::string entry = Element("x", Element("InternalName", std::string(length, 'i')) +
-                                               Element("DisplayName", std::string(length, 'd')) +
-                                               "<ID>1</ID><ColorantList><c/></ColorantList>");
-    const auto document = Load({.InkList = entry,
-                                .MediaList = entry,
-                                .PrintModeList = entry,
-                                .ResolutionList = entry,
-                                .ColorModeList = entry});
-    ASSERT_NE(document, nullptr);
-    const DocumentMembers members(*document);
-    const auto ink = First<InkTypeInfo>(members.InkList);
-    const auto media = First<MediaTypeInfo>(members.MediaList);
-    const auto mode = First<PrintModeInfo>(members.PrintModeList);
-    const auto resolution = First<ResolutionInfo>(members.ResolutionList);
-    const auto color = First<ColorModeInfo>(members.ColorModeList);
-    const std::string display(std::min<std::size_t>(length, 256), 'd');
-    const std::string internal(std::min<std::size_t>(length, 256), 'i');
-    EXPECT_EQ(Join({Str(ink.DisplayName), Str(media.DisplayName), Str(media.UnlocalizedName),
-                    Str(mode.DisplayName), Str(mode.UnlocalizedName), Str(resolution.DisplayName),
-                    Str(color.DisplayName)},
-                   " "),
-              Join(std::vector<std::string>(7, display), " "));
-    EXPECT_EQ(Join({Str(ink.InternalName), Str(media.InternalName), Str(mode.InternalName),
-                    Str(color.InternalName)},
-                   " "),
-              Join(std::vector<std::string>(4, internal), " "));
-    EXPECT_EQ(ink.DisplayName[255] == '\0', length < 256);
-    EXPECT_EQ(media.IsCustomizableMedia, 0);
-    EXPECT_EQ(color.ColorantCount, 1);
-  }
 }
 
 TEST(DefinitionLists, PutSizesAndMarginsIntoTheirFields) {
@@ -166,18 +135,8 @@ TEST(Definition, TurnsTheMinimumMarginsOnly) {
   }
 }
 
-TEST(Definition, NeedsFiveListsAndTakesTextsAsTheyAre) {
-  const std::string whole = DocumentText{}.Text();
-  for (const char* name :
-       {"InkList", "MediaList", "PrintModeList", "ResolutionList", "ColorModeList", "Definition"}) {
-    std::string text = whole;
-    text.insert(text.find(name), "X");
-    text.insert(text.find("</" + std::string(name)) + 2, "X");
-    EXPECT_EQ(LoadText(text), nullptr) << name;
-  }
-  EXPECT_EQ(Load({.ColorModeList = Entries("1")}), nullptr) << "no colorant";
-
-  const auto bare = LoadText(whole);
+TEST(Definition, TakesTextsAsTheyAre) {
+  const auto bare = Load({});
   ASSERT_NE(bare, nullptr);
   EXPECT_EQ(bare->GetProdcutType() + bare->GetTranslationTable() + bare->GetCustomMediaFile(), "");
   const std::string longText(5000, 'p');
@@ -188,6 +147,39 @@ TEST(Definition, NeedsFiveListsAndTakesTextsAsTheyAre) {
   EXPECT_EQ(named->GetProdcutType(), (" " + longText + "\n").c_str());
   EXPECT_EQ(named->GetTranslationTable(), "t");
   EXPECT_EQ(named->GetCustomMediaFile(), "ab");
+}
+
+// A medium is swapped with each later one whose name is less in bytes, but not a customizable one.
+void ExchangeSort(std::vector<MediaTypeInfo*>& media) {
+  for (std::size_t i = 0; i < media.size(); ++i) {
+    for (std::size_t j = i + 1; j < media.size(); ++j) {
+      if (media[i]->IsCustomizableMedia != 0 || media[j]->IsCustomizableMedia != 0) continue;
+      if (std::strncmp(media[i]->UnlocalizedName, media[j]->UnlocalizedName, 256) > 0) {
+        std::swap(media[i], media[j]);
+      }
+    }
+  }
+}
+
+TEST(MediaSort, LeavesThemAsAnExchangeSortDoes) {
+  const std::string names[] = {"", "a", "A", "b", "ab", "\xE9", "[", std::string(256, 'x')};
+  std::minstd_rand random(7);
+  for (int round = 0; round < 300; ++round) {
+    std::vector<MediaTypeInfo> media(random() % 40);
+    std::vector<MediaTypeInfo*> sorted;
+    APtrArray list;
+    for (MediaTypeInfo& each : media) {
+      SetField(each.UnlocalizedName, names[random() % std::size(names)]);
+      each.IsCustomizableMedia = random() % 8 == 0 ? -1 : 0;
+      list.Add(&each);
+      sorted.push_back(&each);
+    }
+    SortMedia(list);
+    ExchangeSort(sorted);
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+      ASSERT_EQ(list[static_cast<int>(i)], sorted[i]) << "round " << round << ", place " << i;
+    }
+  }
 }
 
 }  // namespace
