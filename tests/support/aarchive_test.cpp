@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <limits>
-#include <string>
 
 #include "tests/children.h"
 #include "tests/files.h"

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <string>
 #include <vector>
 
 #include "tests/files.h"

@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,7 +12,6 @@
 #include <string>
 
 #include "qdf/localise/custommedia.h"
-#include "qdf/support/savebytes.h"
 #include "tests/children.h"
 #include "tests/documents.h"
 #include "tests/files.h"
@@ -69,18 +66,6 @@ TEST(Files, MayStandDeepDown) {
   EXPECT_FALSE(LoadsAndWrites(name + tooLong));
 }
 
-TEST(Files, AreNoSockets) {
-  const TempFolder folder;
-  const WorkingFolder in(folder.Path());
-  const sockaddr_un address{AF_UNIX, "socket"};
-  const int server = socket(AF_UNIX, SOCK_STREAM, 0);
-  ASSERT_EQ(bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-  FileBytes bytes;
-  EXPECT_STREQ(ReadFileBytes("socket", bytes), "it can't be read");
-  EXPECT_EQ(SaveFileBytes("socket", "bytes"), 0);
-  close(server);
-}
-
 TEST(Files, WithoutPermissionAreNotRead) {
   const TempFolder folder;
   const std::string path = folder.Write("d.qdf", DocumentText{}.Text());
@@ -112,17 +97,6 @@ TEST(Files, MayChangeWhileTheyAreRead) {
   }
   kill(writer, SIGKILL);
   waitpid(writer, nullptr, 0);
-}
-
-// The system's own files tell a size that they don't have, as does a file that shrinks.
-TEST(Files, MayBeShorterThanTheyTell) {
-  const char* path = "/sys/kernel/mm/transparent_hugepage/enabled";
-  FileBytes bytes;
-  if (access(path, R_OK) != 0) GTEST_SKIP() << "there is no such file here";
-  EXPECT_EQ(ReadFileBytes(path, bytes), nullptr);
-  EXPECT_EQ(bytes.data[bytes.size], '\0');
-  EXPECT_LT(bytes.size, 1000U);
-  EXPECT_GT(bytes.size, 0U);
 }
 
 }  // namespace

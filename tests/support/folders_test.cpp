@@ -4,10 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <filesystem>
-
 #include "qdf/support/directorysearch.h"
-#include "qdf/support/filestatus.h"
 #include "qdf/support/folderwalk.h"
 #include "tests/children.h"
 #include "tests/documents.h"
@@ -112,24 +109,6 @@ TEST(Folders, ThatMoveWhileAWalkIsInsideEndIt) {
   EXPECT_FALSE(walk.Next());
   EXPECT_FALSE(walk.Next());
   EXPECT_TRUE(walk.HasLostItsWay());
-}
-
-TEST(FileStatus, ComesBackExactly) {
-  const TempFolder folder;
-  const std::string file = folder.Write("file", "x");
-  const FileStatus former{04464, {1000, 5}, {2000, 7}};
-  ASSERT_TRUE(WriteFileStatus(file.c_str(), former));
-  FileStatus status{};
-  ASSERT_TRUE(ReadFileStatus(file.c_str(), status));
-  EXPECT_TRUE(status.IsReadOnly());
-  EXPECT_EQ(status.mode, former.mode);
-  EXPECT_EQ(status.modified.tv_sec, 2000);
-  EXPECT_EQ(status.modified.tv_nsec, 7);
-  EXPECT_EQ(status.accessed.tv_nsec, 5);
-  status.mode = 0600;
-  EXPECT_FALSE(status.IsReadOnly());
-  EXPECT_FALSE(ReadFileStatus(folder.Path().c_str(), status));
-  EXPECT_FALSE(ReadFileStatus(folder.Path("missing").c_str(), status));
 }
 
 }  // namespace

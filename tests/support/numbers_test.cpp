@@ -12,8 +12,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <string>
-#include <vector>
 
 #include "qdf/definition/resolutionvalue.h"
 #include "tests/documents.h"
@@ -104,13 +102,10 @@ TEST(Numbers, OfAResolutionStandAroundAnX) {
 }
 
 TEST(Numbers, AreCutWithoutLeavingTheirType) {
-  const struct {
-    double value;
-    int whole;
-  } rows[] = {
+  const std::pair<double, int> rows[] = {
       {0.9, 0},      {-0.9, 0},          {-1.5, -1}, {2147483647.5, kMax}, {-2147483648.5, kMin},
       {1e300, kMax}, {-kInfinity, kMin}, {kNaN, 0}};
-  for (const auto& row : rows) EXPECT_EQ(TruncateToInt(row.value), row.whole) << row.value;
+  for (const auto& [value, whole] : rows) EXPECT_EQ(TruncateToInt(value), whole) << value;
   constexpr float kLargest = std::numeric_limits<float>::max();
   EXPECT_EQ(NarrowToFloat(0.1), 0.1F);
   EXPECT_EQ(NarrowToFloat(1e300), kLargest);

@@ -1,12 +1,14 @@
+// Files that are replaced as a whole, and files of unusual kinds and places.
+
 #include "qdf/support/savebytes.h"
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <string>
-
+#include "qdf/support/filebytes.h"
 #include "tests/children.h"
 #include "tests/files.h"
 
@@ -52,22 +54,6 @@ TEST(SaveFileBytes, RefusesWhatIsNoFile) {
   EXPECT_FALSE(fs::exists(folder.Path("none")));
 }
 
-TEST(SaveFileBytes, RefusesWithoutPermission) {
-  const TempFolder folder;
-  const std::string path = folder.Write("file", "former");
-  fs::permissions(path, fs::perms(0444));
-  fs::permissions(folder.Path(), fs::perms(0555));
-  EXPECT_EQ(InChild([&] {
-              DropPrivileges();
-              if (SaveFileBytes(path.c_str(), "new") != 0) return 1;
-              return SaveFileBytes(folder.Path("made").c_str(), "new") != 0 ? 2 : 0;
-            }),
-            0);
-  EXPECT_EQ(ReadFile(path), "former");
-  EXPECT_FALSE(fs::exists(folder.Path("made")));
-  fs::permissions(folder.Path(), fs::perms(0755));
-}
-
 // The limit holds for what is overwritten as well, so a save that shrinks a file meets it too.
 TEST(SaveFileBytes, KeepsTheFormerFileBeyondTheSizeLimit) {
   const TempFolder folder;
@@ -90,7 +76,7 @@ TEST(SaveFileBytes, KeepsTheFormerFileBeyondTheSizeLimit) {
 }
 
 // What is overwritten may need room as well: a hole in a file takes none.
-TEST(SaveFileBytes, KeepsAFormerFileWithHolesOnAFullDisk) {
+TEST(SaveFileBytes, KeepsTheFormerFileOnAFullDisk) {
   const TempFolder folder;
   const int result = InChild([&] {
     if (!MountSmallDisk(folder.Path().c_str())) return 77;
@@ -98,32 +84,41 @@ TEST(SaveFileBytes, KeepsAFormerFileWithHolesOnAFullDisk) {
     fs::resize_file(path, kSmallDisk - 4096);
     const std::string former = ReadFile(path);
     folder.Write("other", Bytes(kSmallDisk / 2, 'o'));
-    for (const std::size_t size : {former.size() - 1, former.size(), former.size() + 1}) {
+    for (const std::size_t size : {former.size() - 1, former.size(), 2 * former.size()}) {
       if (SaveFileBytes(path.c_str(), Bytes(size, 'n')) != 0) return 1;
       if (ReadFile(path) != former) return 2;
     }
+    if (SaveFileBytes(folder.Path("made").c_str(), Bytes(kSmallDisk, 'n')) != 0) return 3;
+    if (fs::exists(folder.Path("made"))) return 4;
+    // What was taken by the failures is free again.
     fs::remove(folder.Path("other"));
-    return SaveFileBytes(path.c_str(), Bytes(former.size(), 'n')) != 0 ? 0 : 3;
+    return SaveFileBytes(path.c_str(), Bytes(former.size(), 'n')) != 0 ? 0 : 5;
   });
   if (result == 77) GTEST_SKIP() << "this machine lets no test mount a small disk";
   EXPECT_EQ(result, 0);
 }
 
-TEST(SaveFileBytes, KeepsTheFormerFileOnAFullDisk) {
+TEST(Files, AreNoSockets) {
   const TempFolder folder;
-  const int result = InChild([&] {
-    if (!MountSmallDisk(folder.Path().c_str())) return 77;
-    const std::string former = Bytes(20000, 'f');
-    const std::string path = folder.Write("file", former);
-    if (SaveFileBytes(path.c_str(), Bytes(kSmallDisk + 1, 'n')) != 0) return 1;
-    if (ReadFile(path) != former) return 2;
-    if (SaveFileBytes(folder.Path("made").c_str(), Bytes(kSmallDisk, 'n')) != 0) return 3;
-    if (fs::exists(folder.Path("made"))) return 4;
-    // What was taken by the failures is free again.
-    return SaveFileBytes(path.c_str(), Bytes(kSmallDisk, 'n')) != 0 ? 0 : 5;
-  });
-  if (result == 77) GTEST_SKIP() << "this machine lets no test mount a small disk";
-  EXPECT_EQ(result, 0);
+  const WorkingFolder in(folder.Path());
+  const sockaddr_un address{AF_UNIX, "socket"};
+  const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  FileBytes bytes;
+  EXPECT_STREQ(ReadFileBytes("socket", bytes), "it can't be read");
+  EXPECT_EQ(SaveFileBytes("socket", "bytes"), 0);
+  close(server);
+}
+
+// The system's own files tell a size that they don't have, as does a file that shrinks.
+TEST(Files, MayBeShorterThanTheyTell) {
+  const char* path = "/sys/kernel/mm/transparent_hugepage/enabled";
+  FileBytes bytes;
+  if (access(path, R_OK) != 0) GTEST_SKIP() << "there is no such file here";
+  EXPECT_EQ(ReadFileBytes(path, bytes), nullptr);
+  EXPECT_EQ(bytes.data[bytes.size], '\0');
+  EXPECT_LT(bytes.size, 1000U);
+  EXPECT_GT(bytes.size, 0U);
 }
 
 }  // namespace

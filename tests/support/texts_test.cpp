@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <string>
 #include <type_traits>
 
 #include "qdf/support/aarrays.h"

@@ -2,11 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <memory>
-#include <string>
-#include <string_view>
-
 #include "qdf/support/axmltree.h"
 #include "qdf/support/xmlwellformed.h"
 #include "tests/documents.h"

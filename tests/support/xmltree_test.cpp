@@ -1,8 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-
-#include <chrono>
-#include <string>
 
 #include "qdf/support/axmltree.h"
 #include "tests/documents.h"
@@ -10,8 +6,6 @@
 #include "tests/trees.h"
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 std::string RootValue(std::string_view content) {
   const auto tree = TreeOf("<a>" + std::string(content) + "</a>");
@@ -21,25 +15,24 @@ std::string RootValue(std::string_view content) {
 }
 
 TEST(XMLTree, ValuesAreAnElementsOwnText) {
-  const struct {
-    const char* content;
-    const char* value;
-  } rows[] = {{"", ""},
-              {" x\ty ", " x\ty "},
-              {" \n ", " \n "},
-              {"x<!-- y -->z", "xz"},
-              {"<!--y--> x", " x"},
-              {" a<![CDATA[<&b> ]]>c ", " a<&b> c "},
-              {"x<!-- y --> <![CDATA[z]]> ", "x z "},
-              {"1<b>2</b>3", "13"},
-              {"\n  <b/>\n 1 \n<b/>\n", "\n 1 \n"},
-              {"x<!-- y --> <b/> <!-- y -->\n", "x "},
-              {"1<?pi 2?>3", "13"},
-              {"&lt;&gt;&amp;&quot;&apos;", "<>&\"'"},
-              {"&#65;&#x42;&#xe4;&#10;", "AB\xC3\xA4\n"},
-              {"\xE4\xFF", "\xE4\xFF"},
-              {"a\r\nb\rc", "a\nb\nc"}};
-  for (const auto& row : rows) EXPECT_EQ(RootValue(row.content), row.value) << row.content;
+  const std::pair<const char*, const char*> rows[] = {
+      {"", ""},
+      {" x\ty ", " x\ty "},
+      {" \n ", " \n "},
+      {"x<!-- y -->z", "xz"},
+      {"<!--y--> x", " x"},
+      {" a<![CDATA[<&b> ]]>c ", " a<&b> c "},
+      {"x<!-- y --> <![CDATA[z]]> ", "x z "},
+      {"1<b>2</b>3", "13"},
+      {"\n  <b/>\n 1 \n<b/>\n", "\n 1 \n"},
+      {"x<!-- y --> <b/> <!-- y -->\n", "x "},
+      {"1<?pi 2?>3", "13"},
+      {"&lt;&gt;&amp;&quot;&apos;", "<>&\"'"},
+      {"&#65;&#x42;&#xe4;&#10;", "AB\xC3\xA4\n"},
+      {"\xE4\xFF", "\xE4\xFF"},
+      {"a\r\nb\rc", "a\nb\nc"},
+  };
+  for (const auto& [content, value] : rows) EXPECT_EQ(RootValue(content), value) << content;
 }
 
 TEST(XMLTree, FindsTheFirstOfANameAndLeavesTheOutputOtherwise) {
@@ -75,27 +68,6 @@ TEST(XMLTree, FindsTheFirstOfANameAndLeavesTheOutputOtherwise) {
   EXPECT_EQ(tree->getRootNode(root), 0);
 }
 
-// Starting over at the first child for each position would take minutes.
-TEST(XMLTree, GoesThroughManyChildrenInLoopsThatNest) {
-  constexpr int kMany = 100'000;
-  std::string text = "<r>";
-  for (int i = 0; i < kMany; ++i) text += "<a><b/><c/></a>";
-  const auto tree = TreeOf(text + "</r>");
-  AXMLTreeNode root;
-  AXMLTreeNode outer;
-  AXMLTreeNode inner;
-  ASSERT_NE(tree->getRootNode(root), 0);
-  const auto start = Clock::now();
-  int met = 0;
-  for (int i = 0; tree->getChild(i, root, outer) != 0; ++i) {
-    for (int k = 0; tree->getChild(k, outer, inner) != 0; ++k)
-      met += tree->getName(inner) == "c" ? 1 : 0;
-  }
-  EXPECT_EQ(met, kMany);
-  EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
-  EXPECT_NE(tree->getChild(0, root, outer), 0) << "back to the start";
-}
-
 TEST(XMLTree, IsBuiltInTheOrderOfTheCalls) {
   AXMLTree tree("Root");
   AXMLTreeNode item;
@@ -118,34 +90,62 @@ TEST(XMLTree, IsBuiltInTheOrderOfTheCalls) {
   EXPECT_EQ(tree.addChild(child, AXMLTreeNode(), "a", "", -1), 0);
 }
 
-TEST(XMLTree, SaysWhyAFileIsNoDocument) {
+AFilePath PathIn(const TempFolder& folder) { return AFilePath(folder.Path("saved.xml").c_str()); }
+
+// One element for each text, which also has it as an attribute.
+void AddTexts(AXMLTree& tree, const std::vector<std::string>& texts) {
+  AXMLTreeNode item;
+  for (const std::string& text : texts) {
+    ASSERT_NE(tree.addItem(item, "Item", text.c_str()), 0);
+    tree.setAttribute(item, "Value", text.c_str());
+  }
+}
+
+TEST(XMLSave, WritesLinesOfTextElementsAndIndentation) {
   const TempFolder folder;
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  std::filesystem::create_symlink("loop", folder.Path("loop"));
-  folder.Write("empty", "");
-  folder.Write("cut", "<a>\n <b>\n");
-  folder.Write("mixed", "<a>\n  <b x=\"1\" x=\"2\"/>\n</a>");
-  const struct {
-    const char* name;
-    const char* reason;
-    int line, column;
-  } rows[] = {{"missing", "no such file", 0, 0},
-              {"empty/x", "no such file", 0, 0},
-              {"", "it is a folder", 0, 0},
-              {"pipe", "it is no regular file", 0, 0},
-              {"loop", "the links lead nowhere", 0, 0},
-              {"empty", "there is no root element", 1, 1},
-              {"cut", "this element is not closed", 2, 2},
-              {"mixed", "this attribute stands twice", 2, 12}};
-  for (const auto& row : rows) {
-    AXMLTree tree("RootElement");
-    AFilePath path(folder.Path(row.name).c_str());
-    EXPECT_EQ(tree.loadFromFile(path, 1), 0) << row.name;
-    EXPECT_EQ(tree.loadFault().Reason, row.reason);
-    EXPECT_EQ(tree.loadFault().Line, row.line) << row.name;
-    EXPECT_EQ(tree.loadFault().Column, row.column) << row.name;
-    AXMLTreeNode root;
-    EXPECT_EQ(tree.getRootNode(root), 0) << "the placeholder is gone";
+  AFilePath path = PathIn(folder);
+  AXMLTree tree("Root");
+  AddTexts(tree, {"", "<&\"'\n\r\t\x01 "});
+  AXMLTreeNode group;
+  AXMLTreeNode child;
+  tree.addItem(group, "Group", "");
+  tree.addChild(child, group, "Child", "text", -1);
+  ASSERT_NE(tree.saveToFile(path), 0);
+  EXPECT_EQ(ReadFile(folder.Path("saved.xml")),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<Root>\n"
+            "  <Item Value=\"\" />\n"
+            "  <Item Value=\"&lt;&amp;&quot;'&#10;&#13;&#09;&#01; \">"
+            "&lt;&amp;\"'\n&#13;\t&#01; </Item>\n"
+            "  <Group>\n"
+            "    <Child>text</Child>\n"
+            "  </Group>\n"
+            "</Root>\n");
+  tree.removeAll(0);
+  EXPECT_EQ(tree.saveToFile(path), 0) << "without a root";
+}
+
+TEST(XMLSave, EveryTextReadsBack) {
+  std::vector<std::string> texts = {
+      "]]>", "&amp;", "&#65;", "<!--", "\r\n\r", "\xEF\xBB\xBF", std::string(100000, '\r')};
+  for (int byte = 1; byte < 256; ++byte) {
+    const auto c = static_cast<char>(byte);
+    texts.insert(texts.end(), {std::string(1, c), std::string(2, c), {' ', c, ' '}, {c, 'x', c}});
+  }
+  const TempFolder folder;
+  AFilePath path = PathIn(folder);
+  AXMLTree tree("Root");
+  AddTexts(tree, texts);
+  ASSERT_NE(tree.saveToFile(path), 0);
+  AXMLTree read("RootElement");
+  ASSERT_NE(read.loadFromFile(path, 1), 0) << read.loadFault().Reason;
+  AXMLTreeNode root;
+  AXMLTreeNode item;
+  read.getRootNode(root);
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    ASSERT_NE(read.getChild(static_cast<int>(i), root, item), 0);
+    EXPECT_EQ(std::string(read.getValue(item)), texts[i]);
+    EXPECT_EQ(std::string(read.getAttribute(item, "Value")), texts[i]);
   }
 }
 
