@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "qdf/core/documentmembers.h"
 #include "tests/documents.h"
 #include "tests/files.h"
@@ -70,28 +68,23 @@ TEST(OptionTree, IsCopiedOntoWhatIsThere) {
 
 TEST(Document, KeepsItsRecordsWhenItIsLoadedAgain) {
   const TempFolder folder;
-  AFilePath path(folder
-                     .Write("first", DocumentText{.InkList = Entries("2=x;1=first"),
-                                                  .Definition = "<ProductType>a</ProductType>",
-                                                  .Control = Control(">2[1[1]]")}
-                                         .Text())
-                     .c_str());
-  AFilePath more(folder
-                     .Write("more", DocumentText{.InkList = Entries("1=second;3"),
-                                                 .MediaList = Entries("1;2"),
-                                                 .Control = Control("[3[2]]")}
-                                        .Text())
-                     .c_str());
-  AFilePath broken(
-      folder.Write("broken", DocumentText{.MediaList = "", .Control = Control("[1]")}.Text())
-          .c_str());
+  const auto path = [&](const char* name, const DocumentText& text) {
+    return AFilePath(folder.Write(name, text.Text()).c_str());
+  };
+  AFilePath first = path("first", {.InkList = Entries("2=x;1=first"),
+                                   .Definition = "<ProductType>a</ProductType>",
+                                   .Control = Control(">2[1[1]]")});
+  AFilePath more = path("more", {.InkList = Entries("1=second;3"),
+                                 .MediaList = Entries("1;2"),
+                                 .Control = Control("[3[2]]")});
+  AFilePath broken = path("broken", {.MediaList = "", .Control = Control("[1]")});
   APMQDF document;
   std::vector<InkTypeInfo> inks;
   EXPECT_EQ(document.GetFullInkTypeList(inks), 0);
   EXPECT_EQ(document.LoadQDFFile(broken), 0);
   EXPECT_EQ(document.GetFullInkTypeList(inks), 1) << "what was read before it broke off";
   inks.clear();
-  EXPECT_NE(document.LoadQDFFile(path), 0);
+  EXPECT_NE(document.LoadQDFFile(first), 0);
   EXPECT_NE(document.LoadQDFFile(more), 0);
   document.GetFullInkTypeList(inks);
   EXPECT_EQ(IDs(inks), "1,2,3");

@@ -22,10 +22,7 @@ DocumentText TestDocument(const std::string& table) {
   document.ResolutionList = Named("<Value>600</Value>");
   document.ColorModeList = Named(colorants);
   document.Definition = "<TranslationTable>" + table + "</TranslationTable>";
-  for (const char* list : {"MediaSourceList", "MarginInfoList", "MediaSizeList"}) {
-    document.Definition.append("<").append(list).append(">").append(Named());
-    document.Definition.append("</").append(list).append(">");
-  }
+  document.MediaSourceList = document.MediaSizeList = document.MarginInfoList = Named();
   return document;
 }
 
@@ -107,11 +104,10 @@ TEST_F(Localise, TakesFieldsThatAreFull) {
 
 TEST_F(Localise, LooksUpTheTranslationsInASecondCall) {
   const auto document = Localised("One=Two\nTwo=three\n");
-  EXPECT_EQ(DisplayNames(*document).at(0), "Two");
-  EXPECT_EQ(DisplayNames(*document).at(1), "three");
+  const std::string once = Join(DisplayNames(*document), " ").substr(0, 9);
   Again(*document);
+  EXPECT_EQ(once, "Two three");
   EXPECT_EQ(DisplayNames(*document).at(0), "three");
-  EXPECT_EQ(DisplayNames(*document).at(1), "three");
 }
 
 TEST_F(Localise, ChangesNothingWithoutATable) {

@@ -96,17 +96,14 @@ TEST(WriteControl, ToleratesAnyTree) {
 }
 
 std::unique_ptr<APMQDF> LoadSources(const std::string& sourceControl) {
-  return Load({.Definition = ListElement("MediaSourceList", Entries("1;2;3")) +
-                             ListElement("MediaSizeList", Entries("4;5;6")) +
-                             ListElement("MarginInfoList", Entries("8;7")),
+  return Load({.MediaSourceList = Entries("1;2;3"),
+               .MediaSizeList = Entries("4;5;6"),
+               .MarginInfoList = Entries("8;7"),
                .SourceControl = sourceControl});
 }
 
 TEST(WriteMediaSourceControl, MarginsAreThoseThatAHostIsAnswered) {
-  const struct {
-    const char* tree;
-    const char* expected;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"", ""},
       {">2[1,2>5[4,5[7,8>7];6];3[4]]",
        "MediaSource_Control(DefaultMediaSourceID=2){MediaSource(ID=1,2 DefaultMediaSizeID=5){"
@@ -117,9 +114,9 @@ TEST(WriteMediaSourceControl, MarginsAreThoseThatAHostIsAnswered) {
        "MediaSource_Control{MediaSource(ID=1){MediaSize(ID=4 MarginIDList=8) "
        "MediaSize(ID=4 MarginIDList=8)} MediaSource MediaSource(ID=1){"
        "MediaSize(ID=4 MarginIDList=8)}}"}};
-  for (const auto& row : rows) {
-    const auto document = LoadSources(SourceControl(row.tree));
-    EXPECT_EQ(Part(Written(*document), "MediaSource_Control"), row.expected);
+  for (const auto& [tree, expected] : rows) {
+    const auto document = LoadSources(SourceControl(tree));
+    EXPECT_EQ(Part(Written(*document), "MediaSource_Control"), expected);
   }
 }
 

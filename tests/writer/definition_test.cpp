@@ -1,5 +1,4 @@
 #include <clocale>
-#include <vector>
 
 #include "qdf/core/documentmembers.h"
 #include "tests/writer/written.h"
@@ -18,14 +17,6 @@ TEST(WriteDefinition, AnEmptyDocumentIsAFrame) {
             "    <ColorModeList />\n  </Definition>\n</QDF_Info>\n");
 }
 
-constexpr const char* kSources =
-    "<MediaSourceList><a><DisplayName>Roll</DisplayName><ID>-4</ID></a><b/></MediaSourceList>";
-constexpr const char* kMargins =
-    "<MarginInfoList><a><ID>2</ID><Size>1,2.5,-3,1e3</Size></a></MarginInfoList>";
-constexpr const char* kSizes =
-    "<MediaSizeList><a><ID>2147483647</ID><PCLid>-1</PCLid><IsRoll>1</IsRoll><InternalName>A4"
-    "</InternalName><Size>8.2677165 1e20</Size></a></MediaSizeList>";
-
 std::unique_ptr<APMQDF> LoadExample() {
   return Load({.InkList = Entries("2=Photo/pk;1"),
                .MediaList = "<a><ID>3</ID><DisplayName>b</DisplayName></a><a><ID>1</ID>"
@@ -36,13 +27,15 @@ std::unique_ptr<APMQDF> LoadExample() {
                .ColorModeList = "<a><ID>1</ID><DisplayName>Two</DisplayName><ColorantList><c IsSpot"
                                 "Color='1'><ColorDepth>8</ColorDepth><DisplayName>Red</DisplayName>"
                                 "</c><c/></ColorantList></a>",
-               .Definition = std::string("<ProductType> x&amp;y </ProductType><TranslationTable>t"
-                                         "</TranslationTable><CustomMediaFile>c</CustomMediaFile>"
-                                         "<MinAndMaxMediaSize>1,2.0000006,3,4</MinAndMaxMediaSize>"
-                                         "<MinMarginSize>1 2 3 4</MinMarginSize>")
-                                 .append(kSources)
-                                 .append(kMargins)
-                                 .append(kSizes)});
+               .MediaSourceList = Entries("-4=Roll") + "<b/>",
+               .MediaSizeList = Entries("2147483647=/A4",
+                                        "<PCLid>-1</PCLid><IsRoll>1</IsRoll>"
+                                        "<Size>8.2677165 1e20</Size>"),
+               .MarginInfoList = Entries("2", "<Size>1,2.5,-3,1e3</Size>"),
+               .Definition = "<ProductType> x&amp;y </ProductType><TranslationTable>t"
+                             "</TranslationTable><CustomMediaFile>c</CustomMediaFile>"
+                             "<MinAndMaxMediaSize>1,2.0000006,3,4</MinAndMaxMediaSize>"
+                             "<MinMarginSize>1 2 3 4</MinMarginSize>"});
 }
 
 TEST(WriteDefinition, ListsHaveTheirElementsInOrder) {
@@ -97,33 +90,6 @@ TEST(WriteDefinition, TranslatedNamesAreWrittenButForMedia) {
             "MediaDef{ID=3 InternalName DisplayName=b IsCustomizableMedia=0}");
   EXPECT_EQ(Part(written, "PrintModeDef"),
             "PrintModeDef{ID=1 InternalName=best DisplayName=translated}");
-}
-
-TEST(WriteDefinition, NamesSurviveByteForByte) {
-  std::string bytes;
-  for (int byte = 1; byte < 256; ++byte) bytes += static_cast<char>(byte);
-  for (const std::string& name :
-       {bytes, bytes.substr(31) + bytes, std::string(256, '\r'), std::string(300, '\n'),
-        std::string(" "), std::string("<&>\"'&lt;]]>")}) {
-    const auto document = Load({});
-    const DocumentMembers members(*document);
-    auto& ink = *static_cast<InkTypeInfo*>(members.InkList[0]);
-    auto& medium = *static_cast<MediaTypeInfo*>(members.MediaList[0]);
-    auto& mode = *static_cast<ColorModeInfo*>(members.ColorModeList[0]);
-    for (auto* field : {&ink.DisplayName, &ink.InternalName, &medium.UnlocalizedName,
-                        &medium.InternalName, &mode.DisplayName, &mode.InternalName}) {
-      SetField(*field, name);
-    }
-    SetField(mode.Colorants[0].Colorant.DisplayName, name);
-    const std::string written = Written(*document);
-    const auto again = LoadText(written);
-    ASSERT_NE(again, nullptr);
-    EXPECT_EQ(Written(*again), written);
-    const DocumentMembers read(*again);
-    EXPECT_EQ(Str(Records<InkTypeInfo>(read.InkList)[0].DisplayName), name.substr(0, 256));
-    const auto modes = Records<ColorModeInfo>(read.ColorModeList);
-    EXPECT_EQ(Str(modes[0].Colorants[0].Colorant.DisplayName), name.substr(0, 64));
-  }
 }
 
 }  // namespace

@@ -42,7 +42,3 @@ inline std::string Part(const std::string& written, const std::string& name) {
   tree.load_string(written.c_str());
   return Short(tree.find_node([&](const pugi::xml_node& node) { return node.name() == name; }));
 }
-
-inline std::string ListElement(const std::string& name, const std::string& entries) {
-  return Join({"<", name, ">", entries, "</", name, ">"}, "");
-}
