@@ -9,6 +9,8 @@
 
 namespace {
 
+using Load = QdfTest;
+
 constexpr const char* kColorMode = "<C><ColorantList><X/></ColorantList></C>";
 
 std::string Definition(const std::string& media, const std::string& colorModes) {
@@ -18,12 +20,9 @@ std::string Definition(const std::string& media, const std::string& colorModes) 
          colorModes + "</ColorModeList></Definition></Q>";
 }
 
-TEST(Load, SaysWhatADocumentLacks) {
+TEST_F(Load, SaysWhatADocumentLacks) {
   const std::string media = "<MediaList><M/></MediaList>";
-  const struct {
-    std::string text;
-    const char* reason;
-  } refusals[] = {
+  const std::pair<std::string, const char*> refusals[] = {
       {"", ":1:1: there is no root element"},
       {"<Q>\n  <a>\n</Q>", ":3:1: this end tag does not match its start tag"},
       {"<Q a='1' a='2'/>", ":1:10: this attribute stands twice"},
@@ -38,25 +37,19 @@ TEST(Load, SaysWhatADocumentLacks) {
       {Definition(media, "<C/><C><ColorantList/></C>"),
        ": no colour mode of ColorModeList has a colorant"},
   };
-  const TempFolder folder;
-  for (const auto& refusal : refusals) {
-    folder.Write("OutputDrivers/d.qdf", refusal.text);
-    const std::string line = std::string("qdf: OutputDrivers/d.qdf") + refusal.reason + '\n';
-    EXPECT_EQ(RunTool({"show", "d.qdf"}, {folder.Path()}), (Outcome{1, "", line}));
+  for (const auto& [text, reason] : refusals) {
+    folder_.Write("OutputDrivers/d.qdf", text);
+    EXPECT_EQ(Run("show d.qdf"), Refused(std::string("OutputDrivers/d.qdf") + reason));
   }
-  folder.Write("OutputDrivers/d.qdf", Definition(media, kColorMode));
-  EXPECT_EQ(RunTool({"show", "d.qdf"}, {folder.Path()}).code, 0);
+  folder_.Write("OutputDrivers/d.qdf", Definition(media, kColorMode));
+  EXPECT_EQ(Run("show d.qdf").code, 0);
 }
 
-TEST(Load, SaysWhyAFileCannotBeRead) {
-  const TempFolder folder;
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  ASSERT_EQ(symlink("loop", folder.Path("loop").c_str()), 0);
-  ASSERT_EQ(chmod(folder.Write("secret", "<Q/>").c_str(), 0), 0);
-  const struct {
-    const char* name;
-    const char* line;
-  } refusals[] = {
+TEST_F(Load, SaysWhyAFileCannotBeRead) {
+  ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(symlink("loop", folder_.Path("loop").c_str()), 0);
+  ASSERT_EQ(chmod(folder_.Write("secret", "<Q/>").c_str(), 0), 0);
+  const std::pair<const char*, const char*> refusals[] = {
       {"nothing.qdf", "OutputDrivers/nothing.qdf: no such file"},
       {"./nothing.qdf", "./nothing.qdf: no such file"},
       {"secret/file", "secret/file: no such file"},
@@ -68,15 +61,14 @@ TEST(Load, SaysWhyAFileCannotBeRead) {
   for (const CommandUsage& command : Commands()) {
     // An update writes DOC, and loads another document.
     if (command.arguments.front() != "DOC" || command.name == "update") continue;
-    for (const auto& refusal : refusals) {
-      Words words = {command.name, refusal.name};
+    for (const auto& [name, line] : refusals) {
+      Words words = {command.name, name};
       words.insert(words.end(), command.arguments.begin() + 1, command.arguments.end());
-      const std::string line = std::string("qdf: ") + refusal.line + '\n';
-      EXPECT_EQ(RunTool(words, {folder.Path()}), (Outcome{1, "", line})) << command.name;
+      EXPECT_EQ(RunWords(words), Refused(line)) << command.name;
     }
   }
-  EXPECT_EQ(RunTool({"show", "./secret"}, {.folder = folder.Path(), .asNobody = true}),
-            (Outcome{1, "", "qdf: ./secret: no permission to read it\n"}));
+  EXPECT_EQ(Run("show ./secret", {.asNobody = true}),
+            Refused("./secret: no permission to read it"));
 }
 
 }  // namespace

@@ -19,22 +19,16 @@ constexpr const char* kTable =
     "=nothing\n"
     "*Cyan=/<E9>t:\n";
 
-class QdfLocalise : public testing::Test {
+class QdfLocalise : public QdfTest {
  protected:
   QdfLocalise() {
     folder_.Write("OutputDrivers/small.qdf", kSmallDocument);
     folder_.Write("OutputDrivers/small.txt", kTable);
   }
-
-  Outcome Run(const std::string& words) const {
-    return RunTool(SplitWords("localise " + words), {folder_.Path()});
-  }
-
-  TempFolder folder_;
 };
 
 TEST_F(QdfLocalise, ShowsTheTranslatedDocument) {
-  const Outcome shown = Run("small.qdf");
+  const Outcome shown = Run("localise small.qdf");
   EXPECT_TRUE(
       shown.out.starts_with("Document:           OutputDrivers/small.qdf\n"
                             "Table file:         OutputDrivers/small.txt\n"
@@ -44,7 +38,7 @@ TEST_F(QdfLocalise, ShowsTheTranslatedDocument) {
   EXPECT_NE(shown.out.find("\n  11  Brillant      gl                        0  Glossy\n"),
             std::string::npos)
       << shown;
-  const nlohmann::json report = RunJson({"localise", "small.qdf"}, {folder_.Path()});
+  const nlohmann::json report = Json("localise small.qdf");
   EXPECT_EQ(report["translated"], 5);
   EXPECT_EQ(report["inks"][0]["displayName"], "Noir photo");
   EXPECT_EQ(report["mediaSizes"][0]["displayName"], "DIN A4");
@@ -52,7 +46,7 @@ TEST_F(QdfLocalise, ShowsTheTranslatedDocument) {
 }
 
 TEST_F(QdfLocalise, WritesTranslatedMediaToo) {
-  const Outcome written = Run("small.qdf -o new.qdf");
+  const Outcome written = Run("localise small.qdf -o new.qdf");
   EXPECT_TRUE(
       written.out.starts_with("Document:          OutputDrivers/small.qdf\n"
                               "Table file:        OutputDrivers/small.txt\n"
@@ -60,37 +54,16 @@ TEST_F(QdfLocalise, WritesTranslatedMediaToo) {
                               "Written:           new.qdf\n"
                               "\nNo longer held (10)\n"))
       << written;
-  const nlohmann::json shown = RunJson({"show", "./new.qdf"}, {folder_.Path()});
+  const nlohmann::json shown = Json("show ./new.qdf");
   EXPECT_EQ(shown["media"][1]["displayName"], "Brillant");
   EXPECT_EQ(shown["media"][1]["id"], 11);
   EXPECT_EQ(shown["inks"][0]["displayName"], "Noir photo");
-  EXPECT_EQ(ReadFile(folder_.Path("OutputDrivers/small.qdf")), kSmallDocument);
+  EXPECT_EQ(File("OutputDrivers/small.qdf"), kSmallDocument);
 }
 
 TEST_F(QdfLocalise, ListsHowDocumentAndTableMissEachOther) {
-  EXPECT_EQ(Run("small.qdf --untranslated"), (Outcome{0, R"(Document:    OutputDrivers/small.qdf
-Table file:  OutputDrivers/small.txt
-
-Names without an entry (16)
-  List           Display name  IDs
-  Inks           Matte Black   2
-  Inks           Unused        3
-  Media          10            12
-  Media          Plain         10
-  Print modes    Draft         20
-  Print modes    Best          21
-  Resolutions    300 dpi       30
-  Resolutions    fine          31
-  Colour modes   Colour        40
-  Colorants      Gold          40
-  Colour modes   Grey          41
-  Media sources  Roll          50
-  Media sources  Tray          51
-  Media sizes    A3            61
-  Margins        narrow        70
-  Margins        wide          71
-
-Entries that no name uses (1)
+  EXPECT_EQ(From("Entries", Run("localise small.qdf --untranslated")),
+            R"(Entries that no name uses (1)
   Line  Key   Translation
      5  Gone  Parti
 
@@ -99,7 +72,13 @@ Lines that don't count (3)
      2  line 6 has the same key        Glossy=Matt
      4  it has no "="                  no pair
      8  nothing stands before the "="  =nothing
-)"}));
+)");
+  const nlohmann::json names = Json("localise small.qdf --untranslated")["untranslated"];
+  std::string listed;
+  for (const auto& each : names) listed += each["displayName"].get<std::string>() + '|';
+  EXPECT_EQ(listed,
+            "Matte Black|Unused|10|Plain|Draft|Best|300 dpi|fine|Colour|Gold|Grey|Roll|Tray|A3|"
+            "narrow|wide|");
 }
 
 TEST_F(QdfLocalise, TellsOfPiecesOfLinesAndOfWhatANulHides) {
@@ -107,8 +86,7 @@ TEST_F(QdfLocalise, TellsOfPiecesOfLinesAndOfWhatANulHides) {
   folder_.Write("OutputDrivers/small.txt",
                 "Glossy=" + std::string(1020, 'x') +
                     "\nA4=DIN\0 A4\n \0A3=DIN A3\nGlossy=Matt\nPlain=Uni\0\n"s);
-  const nlohmann::json report =
-      RunJson({"localise", "small.qdf", "--untranslated"}, {folder_.Path()});
+  const nlohmann::json report = Json("localise small.qdf --untranslated");
   std::string ignored;
   for (const nlohmann::json& row : report["ignored"]) {
     const std::string text = row["text"];
@@ -134,31 +112,27 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
   folder_.Write("OutputDrivers/folder.qdf", document("folder"));
   folder_.Write("OutputDrivers/folder/file", "");
   ASSERT_EQ(symlink("OutputDrivers/small.txt", folder_.Path("link").c_str()), 0);
-  const struct {
-    const char* words;
-    int code;
-    const char* line;
-  } refusals[] = {
-      {"none.qdf", 1, "OutputDrivers/none.qdf: it names no translation table"},
-      {"up.qdf", 1,
+  const std::pair<const char*, const char*> refusals[] = {
+      {"none.qdf", "OutputDrivers/none.qdf: it names no translation table"},
+      {"up.qdf",
        "OutputDrivers/up.qdf: the name of its translation table, \"../OutputDrivers/small.txt\", "
        "is no bare file name"},
-      {"dots.qdf", 1,
+      {"dots.qdf",
        "OutputDrivers/dots.qdf: the name of its translation table, \"..\", is no bare file name"},
-      {"lost.qdf --untranslated", 1,
+      {"lost.qdf --untranslated",
        "OutputDrivers/lost.txt: no such file under the working folder, see -C"},
-      {"folder.qdf", 1, "OutputDrivers/folder: it is a folder"},
-      {"small.qdf -o no/new.qdf", 1, "no/new.qdf: it can't be saved: its folder isn't there"},
-      {"small.qdf -o OutputDrivers/small.txt", 1,
+      {"folder.qdf", "OutputDrivers/folder: it is a folder"},
+      {"small.qdf -o no/new.qdf", "no/new.qdf: it can't be saved: its folder isn't there"},
+      {"small.qdf -o OutputDrivers/small.txt",
        "OutputDrivers/small.txt: this is the document's translation table"},
-      {"small.qdf -o link", 1, "link: this is the document's translation table"},
-      {"small.qdf -o x --untranslated", 2, "--output and --untranslated don't go together"},
+      {"small.qdf -o link", "link: this is the document's translation table"},
   };
-  for (const auto& refusal : refusals) {
-    EXPECT_EQ(Run(refusal.words),
-              (Outcome{refusal.code, "", std::string("qdf: ") + refusal.line + '\n'}));
+  for (const auto& [words, line] : refusals) {
+    EXPECT_EQ(Run(std::string("localise ") + words), Refused(line));
   }
-  EXPECT_EQ(ReadFile(folder_.Path("OutputDrivers/small.txt")), kTable);
+  EXPECT_EQ(Run("localise small.qdf -o x --untranslated"),
+            Refused("--output and --untranslated don't go together", 2));
+  EXPECT_EQ(File("OutputDrivers/small.txt"), kTable);
 }
 
 }  // namespace

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <set>
 
-#include "qdf/core/apmqdf.h"
-#include "qdf/support/text.h"
 #include "tests/documents.h"
 #include "tests/files.h"
 #include "tests/tool/document.h"
@@ -31,17 +28,6 @@ class Narrow : public testing::Test {
 };
 
 TEST_F(Narrow, ListsWhatTheNextLevelOffers) {
-  EXPECT_EQ(Run({}), (Outcome{0, R"(Inks (3)
-  ID  Display name  Internal name  Default
-   1  Photo Black   ph             yes
-   2  Matte Black   mt
-   3  Unused        un
-
-Media sources (2)
-  ID  Display name  Internal name  Default
-  50  Roll          ro
-  51  Tray          tr             yes
-)"}));
   EXPECT_EQ(Run({"--ink", "1", "--media", "pl", "--print-mode", "dr", "--resolution", "fine"}),
             (Outcome{0, R"(Choice
   Ink:         1 Photo Black (default)
@@ -81,15 +67,6 @@ Dithers (2)
   Coarse  -
 
 Margins: none
-)"}));
-  EXPECT_EQ(Run({"--source", "Roll", "--defaults"}), (Outcome{0, R"(Choice
-  Media source:  50 Roll
-  Media size:    61 A3 (default)
-
-Margins (2)
-  ID  Display name  Internal name  First  Second  Third  Fourth  Default
-  70  narrow                           1       2      3       4
-  71  wide                             0       0      0       0  yes
 )"}));
 }
 
@@ -310,61 +287,6 @@ TEST(NarrowWhy, KnowsTheChangesThatGiveAnAnswer) {
         }
       }
     }
-  }
-}
-
-// The first of the records, or the one at the default position, as the tool tells a choice.
-template <class Record>
-int Take(const std::vector<Record>& records, int position, const nlohmann::json& told) {
-  const Record& record = records.at(static_cast<std::size_t>(position));
-  EXPECT_EQ(told["id"], record.ID);
-  EXPECT_EQ(told["displayName"], FieldText(record.DisplayName));
-  EXPECT_EQ(told["default"], true);
-  return record.ID;
-}
-
-void ExpectDefaultJob(APMQDF& document, const nlohmann::json& told) {
-  std::vector<InkTypeInfo> inks;
-  std::vector<MediaTypeInfo> media;
-  std::vector<PrintModeInfo> printModes;
-  std::vector<ResolutionInfo> resolutions;
-  std::vector<ColorModeInfo> colorModes;
-  int at = 0;
-  const nlohmann::json& choice = told["choice"];
-  document.GetInkTypeList(inks, at);
-  const int ink = Take(inks, at, choice["ink"]);
-  document.GetMediaTypeList(ink, media, at);
-  const int medium = Take(media, at, choice["media"]);
-  document.GetPrintModeList(ink, medium, printModes, at);
-  const int mode = Take(printModes, at, choice["printMode"]);
-  document.GetResolutionList(ink, medium, mode, resolutions, at);
-  const int resolution = Take(resolutions, at, choice["resolution"]);
-  document.GetColorModeList(ink, medium, mode, resolution, colorModes, at);
-  const int color = Take(colorModes, at, choice["colorMode"]);
-
-  std::vector<AString> dithers;
-  AString preset;
-  document.GetDitherList(ink, medium, mode, resolution, color, dithers, preset);
-  ASSERT_EQ(told["dithers"].size(), dithers.size());
-  for (std::size_t i = 0; i < dithers.size(); ++i) {
-    double x = 0;
-    double y = 0;
-    document.GetRipResolutionForDither(ink, medium, mode, resolution, color, dithers[i], x, y);
-    const nlohmann::json expected = {{"name", static_cast<const char*>(dithers[i])},
-                                     {"ripResolution", {{"x", x}, {"y", y}}},
-                                     {"default", dithers[i] == preset}};
-    EXPECT_EQ(told["dithers"][i], expected);
-  }
-}
-
-TEST(NarrowExamples, AgreesWithTheLibrary) {
-  for (const char* name : {"plot36.qdf", "dyesub6.qdf"}) {
-    AFilePath path((std::string(QDF_EXAMPLES "/OutputDrivers/") + name).c_str());
-    APMQDF* loaded = nullptr;
-    PMGetQDFInterface(path, &loaded);
-    const std::unique_ptr<APMQDF> document(loaded);
-    ASSERT_NE(document, nullptr);
-    ExpectDefaultJob(*document, RunJson({"narrow", name, "--defaults"}));
   }
 }
 

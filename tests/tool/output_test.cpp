@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/files.h"
+#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {
@@ -43,32 +43,29 @@ TEST(Output, EndsQuietlyWhenNobodyReads) {
 
 // Names that would clear a screen, break a line, turn the direction of writing, are no UTF-8, or
 // are wider or narrower than their bytes.
-constexpr const char* kOddNames =
-    "<Q><Definition><InkList>"
+constexpr const char* kOddInks =
     "<I><ID>1</ID><DisplayName>a&#27;[2J&#10;b</DisplayName><InternalName>x</InternalName></I>"
     "<I><ID>2</ID><DisplayName>\xe6\x97\xa5\xe6\x9c\xac</DisplayName><InternalName>y</InternalName>"
     "</I><I><ID>3</ID><DisplayName>cafe\xcc\x81</DisplayName><InternalName>\xff\xc2\x9b\xe2\x80\xae"
-    "</InternalName></I></InkList>"
-    "<MediaList><M/></MediaList><PrintModeList><P/></PrintModeList><ResolutionList><R/>"
-    "</ResolutionList><ColorModeList><C><ColorantList><X/></ColorantList></C></ColorModeList>"
-    "</Definition></Q>";
+    "</InternalName></I>";
 
-TEST(Output, MakesNamesHarmlessAndKeepsColumnsAligned) {
-  const TempFolder folder;
-  folder.Write("odd.qdf", kOddNames);
-  EXPECT_EQ(RunTool({"show", "odd.qdf", "--list", "inks"}, {folder.Path()}).out,
+using OddOutput = QdfTest;
+
+TEST_F(OddOutput, MakesNamesHarmlessAndKeepsColumnsAligned) {
+  folder_.Write("odd.qdf", DocumentText{.InkList = kOddInks}.Text());
+  EXPECT_EQ(Run("show odd.qdf --list inks").out,
             "Inks (3)\n"
             "  ID  Display name   Internal name\n"
             "   1  a\\x1B[2J\\x0Ab  x\n"
             "   2  \xe6\x97\xa5\xe6\x9c\xac           y\n"
             "   3  cafe\xcc\x81           \\xFF\\xC2\\x9B\\xE2\\x80\\xAE\n");
-  const Outcome unknown = RunTool({"narrow", "odd.qdf", "--ink", "\x1b]0;\a"}, {folder.Path()});
+  const Outcome unknown = Run("narrow odd.qdf --ink \x1b]0;\a");
   EXPECT_EQ(unknown.err.find_first_of("\x1b\a"), std::string::npos) << unknown;
-  const nlohmann::json inks = RunJson({"show", "odd.qdf", "--list", "inks"}, {folder.Path()});
+  const nlohmann::json inks = Json("show odd.qdf --list inks");
   EXPECT_EQ(inks["inks"][0]["displayName"], "a\x1b[2J\nb");
   EXPECT_EQ(inks["inks"][2]["displayName"], "cafe\xcc\x81");
   EXPECT_EQ(inks["inks"][2]["internalName"], "\xef\xbf\xbd\xc2\x9b\xe2\x80\xae");
-  const std::string json = RunTool({"show", "odd.qdf", "--json"}, {folder.Path()}).out;
+  const std::string json = Run("show odd.qdf --json").out;
   EXPECT_TRUE(std::all_of(json.begin(), json.end(),
                           [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); }));
 }

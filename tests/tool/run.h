@@ -3,6 +3,7 @@
 // Runs the qdf program as a person's shell would, and keeps all that it says.
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <termios.h>
@@ -14,6 +15,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "tests/files.h"
 
 using Words = std::vector<std::string>;
 
@@ -113,3 +116,34 @@ inline nlohmann::json RunJson(Words words, const Setting& setting = {}) {
   if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
   return nlohmann::json::parse(outcome.out, nullptr, false);
 }
+
+// What a refusal says, and nothing else.
+inline Outcome Refused(const std::string& line, int code = 1) {
+  return {code, "", "qdf: " + line + '\n'};
+}
+
+// What it prints from the mark on, up to the other one.
+inline std::string From(const std::string& mark, const Outcome& outcome,
+                        const std::string& end = "no such text") {
+  const std::string text = outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
+  return text.substr(0, text.find(end));
+}
+
+// A folder of its own that the program is run in. Lines are split at blanks into words.
+class QdfTest : public testing::Test {
+ protected:
+  Outcome RunWords(const Words& words, Setting setting = {}) const {
+    setting.folder = folder_.Path();
+    return RunTool(words, setting);
+  }
+  Outcome Run(const std::string& line, const Setting& setting = {}) const {
+    return RunWords(SplitWords(line), setting);
+  }
+  nlohmann::json Json(const std::string& line) const {
+    return RunJson(SplitWords(line), {folder_.Path()});
+  }
+  std::string File(const std::string& name) const { return ReadFile(folder_.Path(name)); }
+  bool Has(const std::string& name) const { return std::filesystem::exists(folder_.Path(name)); }
+
+  TempFolder folder_;
+};

@@ -1,16 +1,18 @@
 #include <gtest/gtest.h>
 
-#include "qdf/definition/anewcoloropt.h"
 #include "tests/files.h"
 #include "tests/tool/document.h"
 #include "tests/tool/run.h"
 
 namespace {
 
-TEST(Show, TellsTheHeaderAndEachField) {
-  const TempFolder folder;
-  folder.Write("small.qdf", kSmallDocument);
-  const Outcome shown = RunTool({"show", "small.qdf"}, {folder.Path()});
+class Show : public QdfTest {
+ protected:
+  Show() { folder_.Write("small.qdf", kSmallDocument); }
+};
+
+TEST_F(Show, TellsTheHeaderAndEachField) {
+  const Outcome shown = Run("show small.qdf");
   EXPECT_EQ(shown, (Outcome{0, R"(Document:           small.qdf
 Product type:       small
 Translation table:  small.txt
@@ -64,87 +66,48 @@ Margins (2)
 )"}));
 }
 
-constexpr const char* kSmallJson = R"({
-  "document": "small.qdf", "productType": "small", "translationTable": "small.txt",
-  "customMediaFile": "", "mediaSizeLimits": [10, 20, 30, 40], "minimumMargins": [5, 6, 7, 8],
-  "inks": [{"id": 1, "displayName": "Photo Black", "internalName": "ph"},
-           {"id": 2, "displayName": "Matte Black", "internalName": "mt"},
-           {"id": 3, "displayName": "Unused", "internalName": "un"}],
-  "media": [{"id": 12, "displayName": "10", "internalName": "PL", "isCustomizableMedia": 0,
-             "unlocalizedName": "10"},
-            {"id": 11, "displayName": "Glossy", "internalName": "gl", "isCustomizableMedia": 0,
-             "unlocalizedName": "Glossy"},
-            {"id": 10, "displayName": "Plain", "internalName": "pl", "isCustomizableMedia": 0,
-             "unlocalizedName": "Plain"},
-            {"id": 13, "displayName": "Glossy", "internalName": "gl2", "isCustomizableMedia": 7,
-             "unlocalizedName": "Glossy"}],
-  "printModes": [
-      {"id": 20, "displayName": "Draft", "internalName": "dr", "unlocalizedName": "Draft"},
-      {"id": 21, "displayName": "Best", "internalName": "be", "unlocalizedName": "Best"}],
-  "resolutions": [{"id": 30, "displayName": "300 dpi", "xResolution": 300, "yResolution": 300},
-                  {"id": 31, "displayName": "fine", "xResolution": 600, "yResolution": 1200}],
-  "colorModes": [
-      {"id": 40, "displayName": "Colour", "internalName": "cmyk", "colorants": [
-          {"displayName": "Cyan", "internalName": "C", "colorDepth": 2, "isSpotColor": 0,
-           "isPrint": 1, "shape": "Round", "frequency": 60, "angle": 0.1},
-          {"displayName": "Gold", "internalName": "", "colorDepth": 1, "isSpotColor": 1,
-           "isPrint": 0, "shape": "Diamond", "frequency": 55, "angle": 45}]},
-      {"id": 41, "displayName": "Grey", "internalName": "", "colorants": [
-          {"displayName": "", "internalName": "", "colorDepth": 1, "isSpotColor": 0,
-           "isPrint": 1, "shape": "Diamond", "frequency": 55, "angle": 45}]}],
-  "mediaSources": [{"id": 50, "displayName": "Roll", "internalName": "ro"},
-                   {"id": 51, "displayName": "Tray", "internalName": "tr"}],
-  "mediaSizes": [{"id": 60, "displayName": "A4", "internalName": "", "pclId": 8, "isRoll": 9,
-                  "firstDimension": 595, "secondDimension": 842},
-                 {"id": 61, "displayName": "A3", "internalName": "", "pclId": 0, "isRoll": 0,
-                  "firstDimension": 0, "secondDimension": 0}],
-  "margins": [{"id": 70, "displayName": "narrow", "internalName": "", "firstMargin": 1,
-               "secondMargin": 2, "thirdMargin": 3, "fourthMargin": 4},
-              {"id": 71, "displayName": "wide", "internalName": "", "firstMargin": 0,
-               "secondMargin": 0, "thirdMargin": 0, "fourthMargin": 0}]
-})";
-
-// With what programs see of each colorant besides: defaults, but that an angle is a setting as
-// well.
-nlohmann::json SmallJson() {
-  nlohmann::json all = nlohmann::json::parse(kSmallJson);
-  const auto more = nlohmann::json::parse(R"({
-    "setting0": 4, "setting4": 0, "setting5": 0, "setting6": 0, "setting7": 0, "setting8": -1,
-    "setting9": 1, "setting10": 100, "colorantSetting5": 0,
-    "curveFlags": [1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1]})");
-  for (nlohmann::json& colorMode : all["colorModes"]) {
-    for (nlohmann::json& colorant : colorMode["colorants"]) {
-      colorant.update(more);
-      for (int i = 0; i < ANewColorOpt::kCurvePoints; ++i) {
-        colorant["curveValues"].push_back(i / 20.0);
-      }
-    }
-  }
-  all["colorModes"][0]["colorants"][0]["setting5"] = 0.1;
-  return all;
-}
-
-TEST(Show, TellsProgramsTheSameAndEachListByItself) {
-  const TempFolder folder;
-  folder.Write("small.qdf", kSmallDocument);
-  const nlohmann::json all = RunJson({"show", "small.qdf"}, {folder.Path()});
-  EXPECT_EQ(all, SmallJson());
+// The first record of each list. Of a colorant's values only those that nobody may see elsewhere.
+TEST_F(Show, TellsProgramsTheSameAndEachListByItself) {
   const struct {
     const char* name;
     const char* key;
-  } lists[] = {{"inks", "inks"},
-               {"media", "media"},
-               {"print-modes", "printModes"},
-               {"resolutions", "resolutions"},
-               {"color-modes", "colorModes"},
-               {"media-sources", "mediaSources"},
-               {"media-sizes", "mediaSizes"},
-               {"margins", "margins"}};
+    const char* first;
+  } lists[] = {
+      {"inks", "inks", R"({"id": 1, "displayName": "Photo Black", "internalName": "ph"})"},
+      {"media", "media", R"({"id": 12, "displayName": "10", "internalName": "PL",
+          "isCustomizableMedia": 0, "unlocalizedName": "10"})"},
+      {"print-modes", "printModes", R"({"id": 20, "displayName": "Draft", "internalName": "dr",
+          "unlocalizedName": "Draft"})"},
+      {"resolutions", "resolutions",
+       R"({"id": 30, "displayName": "300 dpi", "xResolution": 300, "yResolution": 300})"},
+      {"color-modes", "colorModes", R"({"id": 40, "displayName": "Colour", "internalName": "cmyk",
+          "colorants": [{"displayName": "Cyan", "internalName": "C", "colorDepth": 2,
+            "isSpotColor": 0, "isPrint": 1, "shape": "Round", "frequency": 60, "angle": 0.1,
+            "setting0": 4, "setting4": 0, "setting5": 0.1, "setting6": 0, "setting7": 0,
+            "setting8": -1, "setting9": 1, "setting10": 100, "colorantSetting5": 0}]})"},
+      {"media-sources", "mediaSources",
+       R"({"id": 50, "displayName": "Roll", "internalName": "ro"})"},
+      {"media-sizes", "mediaSizes", R"({"id": 60, "displayName": "A4", "internalName": "",
+          "pclId": 8, "isRoll": 9, "firstDimension": 595, "secondDimension": 842})"},
+      {"margins", "margins", R"({"id": 70, "displayName": "narrow", "internalName": "",
+          "firstMargin": 1, "secondMargin": 2, "thirdMargin": 3, "fourthMargin": 4})"},
+  };
+  nlohmann::json all = Json("show small.qdf");
   for (const auto& list : lists) {
-    const nlohmann::json one = RunJson({"show", "small.qdf", "--list", list.name}, {folder.Path()});
-    const nlohmann::json expected = {{"document", "small.qdf"}, {list.key, all[list.key]}};
-    EXPECT_EQ(one, expected);
+    const nlohmann::json one = Json(std::string("show small.qdf --list ") + list.name);
+    EXPECT_EQ(one, nlohmann::json({{"document", "small.qdf"}, {list.key, all[list.key]}}));
+    nlohmann::json first = all[list.key][0];
+    if (first.contains("colorants")) {
+      first["colorants"].erase(1);
+      first["colorants"][0].erase("curveValues");
+      first["colorants"][0].erase("curveFlags");
+    }
+    EXPECT_EQ(first, nlohmann::json::parse(list.first));
+    all.erase(list.key);
   }
+  EXPECT_EQ(all, nlohmann::json::parse(R"({"document": "small.qdf", "productType": "small",
+      "translationTable": "small.txt", "customMediaFile": "",
+      "mediaSizeLimits": [10, 20, 30, 40], "minimumMargins": [5, 6, 7, 8]})"));
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <filesystem>
-
 #include "tests/files.h"
 #include "tests/tool/run.h"
 
@@ -10,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class QdfSweep : public testing::Test {
+class QdfSweep : public QdfTest {
  protected:
   QdfSweep() {
     folder_.Write("tree/Good/best/Good_best.xml", "<r release='2.5'/>");
@@ -19,13 +17,7 @@ class QdfSweep : public testing::Test {
     folder_.Write("outside/kept", "");
   }
 
-  Outcome Run(const std::string& words) const {
-    return RunTool(SplitWords("sweep " + words), {folder_.Path()});
-  }
-
-  bool Has(const std::string& name) const { return fs::exists(folder_.Path("tree/" + name)); }
-
-  TempFolder folder_;
+  bool Has(const std::string& name) const { return QdfTest::Has("tree/" + name); }
 };
 
 constexpr const char* kTable =
@@ -52,7 +44,7 @@ TEST_F(QdfSweep, TellsEveryReason) {
   folder_.Write("tree/File/file", "");
   folder_.Write("tree/None/best/file", "");
   folder_.Write("tree/Mute/best/Mute_best.xml", "<r/>");
-  const Outcome listed = Run("tree --dry-run");
+  const Outcome listed = Run("sweep tree --dry-run");
   EXPECT_EQ(listed, (Outcome{0, R"(Folder:   tree
 Unsound:  7
 
@@ -68,7 +60,7 @@ Media folders (8)
   Old    unsound  tree/Old/best/Old_best.xml      its release, "1.5", isn't 2 or more and below 3
 )"}));
   EXPECT_TRUE(Has("Old"));
-  const nlohmann::json report = RunJson({"sweep", "tree", "--yes"}, {folder_.Path()});
+  const nlohmann::json report = Json("sweep tree --yes");
   EXPECT_EQ(report["unsound"], 7);
   EXPECT_EQ(report["media"][3]["sound"], false);
   EXPECT_EQ(report["deleted"], 7);
@@ -79,9 +71,9 @@ Media folders (8)
 TEST_F(QdfSweep, DeletesNothingWithoutAYes) {
   const std::string nobody =
       "qdf: tree: nothing was deleted: nobody is at a terminal to be asked, see --yes\n";
-  EXPECT_EQ(Run("tree"), (Outcome{1, kTable, nobody}));
-  EXPECT_EQ(Run("tree --json").err, nobody);
-  EXPECT_EQ(Run("tree --yes --dry-run").code, 2);
+  EXPECT_EQ(Run("sweep tree"), (Outcome{1, kTable, nobody}));
+  EXPECT_EQ(Run("sweep tree --json").err, nobody);
+  EXPECT_EQ(Run("sweep tree --yes --dry-run").code, 2);
   const Setting plain{.folder = folder_.Path(), .environment = {"NO_COLOR=1"}};
   for (const std::string typed : {"n\n", "\n", "yesterday\n", "\x04"}) {
     const std::string seen = OnTerminal({"sweep", "tree"}, plain, typed);
@@ -99,7 +91,7 @@ TEST_F(QdfSweep, DeletesAfterAYesOnTheTerminal) {
                       "Deleted media folders:  1\r\ncode 0");
   EXPECT_FALSE(Has("Old"));
   EXPECT_TRUE(Has("Good"));
-  EXPECT_EQ(Run("tree").code, 0);
+  EXPECT_EQ(Run("sweep tree").code, 0);
 }
 
 TEST_F(QdfSweep, SparesAloneWhatCannotBeExamined) {
@@ -107,7 +99,7 @@ TEST_F(QdfSweep, SparesAloneWhatCannotBeExamined) {
   folder_.Write("tree/" + name + "/best/file", "");
   std::string tree = "tree";
   while (tree.size() < 3900) tree += "/.";  // leaves no room for the long name
-  const Outcome swept = Run(tree + " --yes --json");
+  const Outcome swept = Run("sweep " + tree + " --yes --json");
   EXPECT_EQ(swept.code, 1) << swept;
   const nlohmann::json report = nlohmann::json::parse(swept.out, nullptr, false);
   EXPECT_EQ(report["unsound"], 1);
@@ -124,8 +116,7 @@ TEST_F(QdfSweep, TellsWhatCannotBeDeleted) {
   for (const char* name : {"", "tree", "tree/Loose", "tree/Old"}) {
     ASSERT_EQ(chmod(folder_.Path(name).c_str(), 0777), 0);
   }
-  const Outcome swept =
-      RunTool({"sweep", "tree", "--yes"}, {.folder = folder_.Path(), .asNobody = true});
+  const Outcome swept = Run("sweep tree --yes", {.asNobody = true});
   EXPECT_EQ(swept.code, 1);
   EXPECT_TRUE(
       swept.out.ends_with("\nDeleted media folders:  1\n\n"
@@ -134,8 +125,8 @@ TEST_F(QdfSweep, TellsWhatCannotBeDeleted) {
                           "  tree/Old  tree/Old/best/Old_best.xml  Permission denied\n"))
       << swept;
   EXPECT_TRUE(Has("Old/best/Old_best.xml") && !Has("Loose"));
-  EXPECT_EQ(Run("tree --yes").code, 0);
-  EXPECT_TRUE(fs::exists(folder_.Path("outside/kept")));
+  EXPECT_EQ(Run("sweep tree --yes").code, 0);
+  EXPECT_TRUE(QdfTest::Has("outside/kept"));
 }
 
 }  // namespace

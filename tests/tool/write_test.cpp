@@ -8,17 +8,13 @@
 
 namespace {
 
-class QdfWrite : public testing::Test {
+class QdfWrite : public QdfTest {
  protected:
   QdfWrite() { folder_.Write("small.qdf", kSmallDocument); }
-
-  Outcome Run(const Words& words) const { return RunTool(words, {folder_.Path()}); }
-
-  TempFolder folder_;
 };
 
 TEST_F(QdfWrite, TellsEachKindOfLossOnce) {
-  EXPECT_EQ(Run({"write", "small.qdf", "new.qdf"}), (Outcome{0, R"(Document:  small.qdf
+  EXPECT_EQ(Run("write small.qdf new.qdf"), (Outcome{0, R"(Document:  small.qdf
 Written:   new.qdf
 
 No longer held (10)
@@ -34,70 +30,59 @@ No longer held (10)
   Colour modes: Angle      1 colorant       Colour, Cyan   0.1           45
   Colour modes: Print      1 colorant       Colour, Gold   0             1
 )"}));
-  EXPECT_EQ(Run({"write", "./new.qdf", "again.qdf"}).out,
+  EXPECT_EQ(Run("write ./new.qdf again.qdf").out,
             "Document:  ./new.qdf\nWritten:   again.qdf\n\nNo longer held: none\n");
 }
 
 TEST_F(QdfWrite, TellsProgramsWholeLists) {
-  const nlohmann::json report = RunJson({"write", "small.qdf", "new.qdf"}, {folder_.Path()});
-  EXPECT_EQ(report["document"], "small.qdf");
-  EXPECT_EQ(report["written"], "new.qdf");
-  EXPECT_EQ(report["losses"][2],
-            nlohmann::json::parse(R"({"what": "Dithers", "count": 24, "unit": "combinations",
-                "first": "all of them", "before": ["Fine", "Coarse"], "after": ["FINE", "COARSE"]})"));
+  EXPECT_EQ(Json("write small.qdf new.qdf")["losses"][2], nlohmann::json::parse(R"({
+      "what": "Dithers", "count": 24, "unit": "combinations", "first": "all of them",
+      "before": ["Fine", "Coarse"], "after": ["FINE", "COARSE"]})"));
 }
 
 TEST_F(QdfWrite, MayReplaceTheDocumentItself) {
-  EXPECT_EQ(Run({"write", "./small.qdf", "small.qdf"}).code, 0);
-  const std::string written = ReadFile(folder_.Path("small.qdf"));
+  EXPECT_EQ(Run("write ./small.qdf small.qdf").code, 0);
+  const std::string written = File("small.qdf");
   EXPECT_NE(written, kSmallDocument);
-  EXPECT_EQ(Run({"write", "./small.qdf", "small.qdf"}).code, 0);
-  EXPECT_EQ(Run({"write", "./small.qdf", "third.qdf"}).code, 0);
-  EXPECT_EQ(ReadFile(folder_.Path("small.qdf")), ReadFile(folder_.Path("third.qdf")));
+  EXPECT_EQ(Run("write ./small.qdf small.qdf").code, 0);
+  EXPECT_EQ(Run("write ./small.qdf third.qdf").code, 0);
+  EXPECT_EQ(File("small.qdf"), File("third.qdf"));
 }
 
 TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
   ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
   ASSERT_EQ(symlink("nowhere", folder_.Path("link").c_str()), 0);
-  const struct {
-    const char* out;
-    const char* reason;
-  } refusals[] = {
+  const std::pair<const char*, const char*> refusals[] = {
       {"no/new.qdf", "its folder isn't there"},    {"./", "it is a folder"},
       {"pipe", "it is no regular file"},           {"link", "the link leads nowhere"},
       {"small.qdf/new", "its folder isn't there"},
   };
-  for (const auto& refusal : refusals) {
-    const std::string line =
-        "qdf: " + std::string(refusal.out) + ": it can't be saved: " + refusal.reason + '\n';
-    EXPECT_EQ(Run({"write", "small.qdf", refusal.out}), (Outcome{1, "", line}));
+  for (const auto& [out, reason] : refusals) {
+    EXPECT_EQ(Run(std::string("write small.qdf ") + out),
+              Refused(out + std::string(": it can't be saved: ") + reason));
   }
 }
 
 TEST_F(QdfWrite, TakesAnEmptyNameForWrongUsage) {
-  EXPECT_EQ(Run({"write", "small.qdf", ""}),
-            (Outcome{2, "", "qdf: the name of the file to write is empty\n"}));
+  EXPECT_EQ(RunWords({"write", "small.qdf", ""}),
+            Refused("the name of the file to write is empty", 2));
   for (const char* command : {"resources", "sweep"}) {
-    EXPECT_EQ(Run({command, ""}), (Outcome{2, "", "qdf: the name of the folder is empty\n"}));
+    EXPECT_EQ(RunWords({command, ""}), Refused("the name of the folder is empty", 2));
   }
 }
 
 TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
-  const std::string old = folder_.Write("old.qdf", "former content");
-  const std::string folder = folder_.Path();
-  const auto refused = [&](const Setting& setting, const char* reason) {
-    const Outcome expected{1, "", std::string("qdf: old.qdf: it can't be saved: ") + reason + '\n'};
-    const Outcome outcome = RunTool({"write", "small.qdf", "old.qdf"}, setting);
-    return outcome == expected ? 0 : 1;
-  };
+  folder_.Write("old.qdf", "former content");
   EXPECT_EQ(InChild([&] {
               LimitFileSizes(1024);
-              return refused({folder}, "there is no room for it");
+              const Outcome full = Refused("old.qdf: it can't be saved: there is no room for it");
+              return Run("write small.qdf old.qdf") == full ? 0 : 1;
             }),
             0);
-  ASSERT_EQ(chmod(folder.c_str(), 0755), 0);
-  EXPECT_EQ(refused({.folder = folder, .asNobody = true}, "no permission to write it"), 0);
-  EXPECT_EQ(ReadFile(old), "former content");
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0755), 0);
+  EXPECT_EQ(Run("write small.qdf old.qdf", {.asNobody = true}),
+            Refused("old.qdf: it can't be saved: no permission to write it"));
+  EXPECT_EQ(File("old.qdf"), "former content");
 }
 
 }  // namespace
