@@ -177,6 +177,33 @@ TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
       << "no sources, so the section isn't read";
 }
 
+// Without a document, and for one that doesn't keep the tree.
+TEST(Trees, AreReadAtOnceFromATreeOfTheCallers) {
+  const std::string file = QDF_EXAMPLES "/OutputDrivers/plot36.qdf";
+  const auto document = LoadFile(file);
+  const DocumentMembers whole(*document);
+  AXMLTree tree("RootElement");
+  AFilePath path(file.c_str());
+  ASSERT_NE(tree.loadFromFile(path, 1), 0);
+  for (const bool forADocument : {false, true}) {
+    AStringArray profiles;
+    AStringArray settings;
+    AStringArray names;
+    APtrArray records;
+    CQDFNode root;
+    DeferredDithers dithers(names, records);
+    dithers.BeginTree(tree);
+    EXPECT_EQ(ReadControlDefinition(&tree, whole.InkList, whole.MediaList, whole.PrintModeList,
+                                    whole.ResolutionList, whole.ColorModeList, root, profiles,
+                                    settings, names, records, forADocument ? &dithers : nullptr),
+              1);
+    EXPECT_EQ(Dump(root), Dump(whole.ControlTreeRoot));
+    EXPECT_EQ(Dump(names), Dump(whole.DitherNameList));
+    EXPECT_EQ(records.GetSize(), whole.DitherResolutionList.GetSize());
+    if (!forADocument) DeleteItems<DitherResolutionInfo>(records);
+  }
+}
+
 TEST(Trees, ReadersAnswerForNothing) {
   APtrArray none;
   CQDFNode root;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <limits>
 
 #include "qdf/hpimport/removefolder.h"
@@ -15,8 +16,11 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ResourceName, IsMadeOfTheTwoFoldersAboveTheFile) {
-  // Media, quality and file behind a path; empty for one that is no resource.
-  const std::pair<const char*, const char*> rows[] = {
+  struct Row {
+    const char* path;
+    const char* name;  // media, quality and file; empty for a path that is no resource
+  };
+  const Row rows[] = {
       {"/top/Glossy/best/Glossy_best.xml", "Glossy|best|Glossy_best.xml"},
       {"Glossy/best/Glossy_best.xml", "Glossy|best|Glossy_best.xml"},
       {"/top/Glossy/best/gLOSSY_Best.XML", "Glossy|best|gLOSSY_Best.XML"},
@@ -34,13 +38,13 @@ TEST(ResourceName, IsMadeOfTheTwoFoldersAboveTheFile) {
       {".xml", ""},
       {"", ""},
   };
-  for (const auto& [path, expected] : rows) {
-    const auto name = FindResourceName(path);
+  for (const Row& row : rows) {
+    const auto name = FindResourceName(row.path);
     const std::string found =
         name ? Join({std::string(name->media), std::string(name->quality), std::string(name->file)},
                     "|")
              : "";
-    EXPECT_EQ(found, expected) << path;
+    EXPECT_EQ(found, row.name) << row.path;
   }
 }
 
@@ -116,6 +120,20 @@ TEST(ResourceFile, IsReadLeniently) {
   EXPECT_EQ(ParseHPResourceFile(nullptr, nullptr), 0);
 }
 
+TEST(ResourceFile, IsLoadedFromAPathUnderTheToldNames) {
+  const TempFolder folder;
+  const AFilePath whole(WriteResource(folder, "t", {}).c_str());
+  const AFilePath broken(folder.Write("broken.xml", "<r>").c_str());
+  const AFilePath missing(folder.Path("missing.xml").c_str());
+  Resources records;
+  for (AFilePath path : {broken, missing, whole}) {
+    LoadHPResourceFile(path, records, "media", "quality", "file");
+  }
+  ASSERT_EQ(records.GetSize(), 1);
+  EXPECT_EQ(Dump(*static_cast<HPResourceInfo*>(records.GetAt(0))),
+            "media/quality/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/file");
+}
+
 TEST(Discovery, FindsResourcesAtAnyDepthInTheOrderOfTheSearch) {
   const TempFolder folder;
   const std::string empty = "<r/>";
@@ -138,6 +156,24 @@ TEST(Discovery, FindsResourcesAtAnyDepthInTheOrderOfTheSearch) {
   }
   EXPECT_EQ(Found(folder.Path("missing")), "");
   EXPECT_EQ(Found(folder.Path("a.xml")), "");
+}
+
+// The path is longer than the system takes in one piece.
+TEST(Discovery, FindsResourcesAtEndlessPaths) {
+  const TempFolder folder;
+  const std::string resource = WriteResource(folder, "t", {});
+  const std::string name(250, 'x');
+  Descriptor deep = OpenFolder(folder.Path("t").c_str());
+  for (int i = 0; i < 20; ++i) {
+    ASSERT_EQ(mkdirat(deep.Number(), name.c_str(), 0755), 0);
+    deep = OpenSubfolder(deep, name.c_str());
+  }
+  fs::rename(folder.Path("t/Glossy"), folder.Path("Glossy"));
+  ASSERT_EQ(renameat(AT_FDCWD, folder.Path("Glossy").c_str(), deep.Number(), "Glossy"), 0);
+  EXPECT_EQ(Found(folder.Path()),
+            "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/Glossy_best.xml");
+  RemoveFolderTree(folder.Path("t").c_str());
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 TEST(Discovery, AppendsAndNeverReadsThroughALink) {
