@@ -20,7 +20,8 @@ std::string_view ForeignEncoding(std::string_view text) {
   if (open == std::string_view::npos) return {};
   const std::string_view rest = declaration.substr(open + 1);
   const std::string_view encoding = rest.substr(0, rest.find(declaration[open]));
-  const bool isFamiliar = EqualNoCase(encoding, "UTF-8") || EqualNoCase(encoding, "US-ASCII");
+  const bool isFamiliar = EqualNoCase(encoding, "UTF-8") || EqualNoCase(encoding, "UTF8") ||
+                          EqualNoCase(encoding, "US-ASCII");
   return isFamiliar ? std::string_view() : encoding;
 }
 

@@ -45,6 +45,7 @@ class ReachRules {
 
   struct HiddenOption {
     std::uint32_t id;
+    std::size_t others;                 // hidden ids of the same element
     std::vector<std::uint32_t> chosen;  // the ids of the levels above
     const ElementNode* answers;
   };
@@ -124,12 +125,13 @@ class ReachRules {
     for (auto node = matching.begin() + 1; node != matching.end(); ++node) {
       for (const ElementNode& child : (*node)->children) {
         if (!Count(child)) return;
-        const auto id = std::find_if(child.ids.begin(), child.ids.end(), [&](std::uint32_t each) {
-          return listed.find(each) == listed.end();
-        });
+        const auto isHidden = [&](std::uint32_t each) { return listed.find(each) == listed.end(); };
+        const auto id = std::find_if(child.ids.begin(), child.ids.end(), isHidden);
         if (id == child.ids.end()) continue;
+        const auto others = std::count_if(id + 1, child.ids.end(), isHidden);
         hidden_.try_emplace(
             &child, HiddenOption{*id,
+                                 static_cast<std::size_t>(others),
                                  {chosen_.begin(), chosen_.begin() + static_cast<int>(level)},
                                  matching.front()});
       }
@@ -149,12 +151,15 @@ class ReachRules {
       chosen += Describe(i, option.chosen[i]);
     }
     const std::string above = kControlLevels[level - 1].element;
+    const bool isAlone = option.others == 0;
+    const std::string more =
+        isAlone ? "" : " and " + check::Count(option.others, "other") + " of this ID";
     findings_.Add(Code::kOptionHidden, node.element, node.element.Find("ID").ValuePlace(),
-                  Describe(level, option.id) + " can be reached here for " + chosen +
-                      ", but is never listed: the " + above + " on " +
+                  Describe(level, option.id) + more + " can be reached here for " + chosen +
+                      ", but " + (isAlone ? "is" : "are") + " never listed: the " + above + " on " +
                       findings_.LineOf(option.answers->element) + " answers what follows",
-                  "add it to that " + above + ", or take " +
-                      Describe(level - 1, option.chosen.back()) + " out of its ID");
+                  std::string(isAlone ? "add it" : "add them") + " to that " + above +
+                      ", or take " + Describe(level - 1, option.chosen.back()) + " out of its ID");
   }
 
   bool IsReached(const ElementNode& node) const {
