@@ -3,7 +3,10 @@
 //     apmqdf-bench [benchmark options] [DOCUMENT]
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <unistd.h>
+
+#include <climits>
 
 #include "bench/measure.h"
 
@@ -40,6 +43,10 @@ void Compare(benchmark::State& state, double figure, double against, double atMo
 }
 
 int main(int argc, char** argv) {
+  // What is freed stays with the program: else the benchmarks that ran before would decide how
+  // often a load has to ask the system for pages.
+  mallopt(M_MMAP_MAX, 0);
+  mallopt(M_TRIM_THRESHOLD, INT_MAX);
   benchmark::Initialize(&argc, argv);
   if (argc > 1) Document() = argv[1];
   benchmark::RunSpecifiedBenchmarks();
