@@ -3,6 +3,8 @@
 #include <clocale>
 #include <cwchar>
 
+#include "tool/utf8.h"
+
 namespace {
 
 // For as long as it lives, the thread knows UTF-8 and how wide its characters are. Without that
@@ -71,13 +73,4 @@ Printable MakePrintable(std::string_view text) {
   return out;
 }
 
-std::string Quoted(std::string_view text) {
-  constexpr std::size_t kMost = 100;
-  std::size_t shown = text.size();
-  if (shown > kMost) {
-    shown = kMost;
-    // Not within a character of UTF-8.
-    while (shown > kMost - 4 && (static_cast<unsigned char>(text[shown]) & 0xC0U) == 0x80) --shown;
-  }
-  return '"' + std::string(text.substr(0, shown)) + (shown < text.size() ? "...\"" : "\"");
-}
+std::string Quoted(std::string_view text) { return '"' + Shortened(text, 100) + '"'; }

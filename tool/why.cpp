@@ -2,23 +2,13 @@
 
 #include <algorithm>
 
+#include "tool/enumerate.h"
+
 namespace {
 
 using Names = std::vector<std::string>;
 
-constexpr std::size_t kMost = 4;
-
-// As in: a, b and 3 more.
-std::string Enumerate(const Names& names, const std::string& joint) {
-  std::string text;
-  for (std::size_t i = 0; i < names.size() && i < kMost; ++i) {
-    const bool isLast = i + 1 == names.size();
-    text += (i == 0 ? "" : isLast ? ' ' + joint + ' ' : ", ") + names[i];
-  }
-  return names.size() > kMost
-             ? text + ' ' + joint + ' ' + std::to_string(names.size() - kMost) + " more"
-             : text;
-}
+constexpr std::size_t kMost = 4;  // of several that are told one by one
 
 std::string UpperFirst(std::string text) {
   text[0] = static_cast<char>(text[0] & ~('a' ^ 'A'));
@@ -58,7 +48,7 @@ class Teller {
     Names names;
     for (const int id : ids) names.push_back(NameChoice(facts_.known[level].at(id)));
     return InSentence(ids.size() > 1 && joint == "and" ? at.listLabel : at.label) + ' ' +
-           Enumerate(names, joint);
+           Enumerate(names, joint, kMost);
   }
 
   // The choice that fails.
@@ -98,14 +88,15 @@ class Teller {
     if (IsWhole()) {
       const std::string first = " It is found in " + names.front();
       names.erase(names.begin());
-      return first + (names.empty() ? "."
-                                    : "; " + Enumerate(names, "and") + ", which would fit too, " +
-                                          (names.size() == 1 ? "is" : "are") + " never asked.");
+      return first + (names.empty()
+                          ? "."
+                          : "; " + Enumerate(names, "and", kMost) + ", which would fit too, " +
+                                (names.size() == 1 ? "is" : "are") + " never asked.");
     }
     const std::string these = facts_.at == 1 ? "that choice" : "these choices";
     if (names.size() == 1) return " One node stands for " + these + ", " + names.front() + '.';
     return ' ' + std::to_string(names.size()) + " nodes stand for " + these + ", " +
-           Enumerate(names, "and") + "; the first one decides what is listed.";
+           Enumerate(names, "and", kMost) + "; the first one decides what is listed.";
   }
 
   // A standing node, with its place if that hasn't been told.
@@ -148,7 +139,7 @@ class Teller {
       if (lack.what == what && lack.node == node) names.push_back('"' + lack.name + '"');
     }
     if (names.empty()) return "";
-    return what + (names.size() > 1 ? "s " : " ") + Enumerate(names, "and");
+    return what + (names.size() > 1 ? "s " : " ") + Enumerate(names, "and", kMost);
   }
 
   std::string TellLacks() const {
@@ -160,7 +151,7 @@ class Teller {
         if (!names.empty()) kinds.push_back(names);
       }
       if (kinds.empty()) continue;
-      text.append(" The first one lacks ").append(Enumerate(kinds, "and"));
+      text.append(" The first one lacks ").append(Enumerate(kinds, "and", kMost));
       text.append(" of ").append(TellAgain(i)).append(".");
     }
     return text;

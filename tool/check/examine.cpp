@@ -4,6 +4,7 @@
 
 #include "qdf/support/text.h"
 #include "tool/check/rules.h"
+#include "tool/utf8.h"
 
 namespace check {
 
@@ -26,23 +27,6 @@ std::string_view ForeignEncoding(std::string_view text) {
 }
 
 bool IsForeign(char c) { return static_cast<unsigned char>(c) >= 0x80U; }
-
-// The bytes of the character of UTF-8 that the text begins with, 0 when there is none.
-std::size_t CharacterSize(std::string_view text) {
-  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  if (byte(0) < 0x80U) return 1;
-  const std::size_t size = byte(0) >= 0xF0U ? 4 : byte(0) >= 0xE0U ? 3 : 2;
-  if (byte(0) < 0xC2U || byte(0) > 0xF4U || text.size() < size) return 0;
-  for (std::size_t i = 1; i < size; ++i) {
-    if ((byte(i) & 0xC0U) != 0x80U) return 0;
-  }
-  // Spelled longer than need be, half of a pair, or beyond the last character.
-  const unsigned int start = (unsigned{byte(0)} << 8U) | byte(1);
-  const bool isWrong = (start >= 0xE080U && start < 0xE0A0U) ||
-                       (start >= 0xEDA0U && start < 0xEE00U) ||
-                       (start >= 0xF080U && start < 0xF090U) || start >= 0xF490U;
-  return isWrong ? 0 : size;
-}
 
 void CheckBytes(std::string_view text, Findings& findings) {
   std::size_t at = 0;

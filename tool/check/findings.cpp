@@ -3,16 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "tool/utf8.h"
+
 namespace check {
 
-std::string Brief(std::string_view text) {
-  constexpr std::size_t kLongest = 60;
-  if (text.size() <= kLongest) return std::string(text);
-  // Not within a character of several bytes.
-  std::size_t end = kLongest;
-  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
-  return std::string(text.substr(0, end)) + "...";
-}
+std::string Brief(std::string_view text) { return Shortened(text, 60); }
 
 std::string Quote(std::string_view text) { return '"' + Brief(text) + '"'; }
 

@@ -6,21 +6,14 @@
 #include "qdf/support/text.h"
 #include "qdf/support/uniqueids.h"
 #include "tool/check/values.h"
+#include "tool/enumerate.h"
 
 namespace check {
 
 namespace {
 
-// "9, 12 and 3 more".
-std::string Enumerate(const std::vector<std::string>& words) {
-  constexpr std::size_t kMost = 5;
-  std::string text;
-  for (std::size_t i = 0; i < words.size() && i < kMost; ++i) {
-    text += (i == 0 ? "" : ", ") + words[i];
-  }
-  if (words.size() > kMost) text += " and " + std::to_string(words.size() - kMost) + " more";
-  return text;
-}
+// As in: 9, 12 and 15.
+std::string All(const std::vector<std::string>& words) { return Enumerate(words, "and", 5); }
 
 class IDListRules {
  public:
@@ -103,7 +96,7 @@ class IDListRules {
     if (!malformed_.words.empty()) {
       const bool all = EqualNoCase(malformed_.first, "ALL");
       Tell(Code::kIDListMalformed, malformed_.first,
-           Enumerate(malformed_.words) + in +
+           All(malformed_.words) + in +
                (malformed_.words.size() == 1 ? " isn't a whole number" : " aren't whole numbers") +
                ": only a leading number counts",
            all ? "\"ALL\" counts only when it stands alone" : "write ids with commas between them");
@@ -113,12 +106,12 @@ class IDListRules {
       Tell(Code::kIDUnknown, unknown_.first,
            std::string(FormOf(use_.kind).section) + " has no " +
                (one ? FormOf(use_.kind).entry : Plural(use_.kind)) + " with the id" +
-               (one ? " " : "s ") + Enumerate(unknown_.words),
+               (one ? " " : "s ") + All(unknown_.words),
            "correct it, or take it out");
     }
     if (!repeated_.words.empty()) {
       Tell(Code::kIDListRepeats, repeated_.first,
-           Enumerate(repeated_.words) + " stands more than once" + in, "take it out");
+           All(repeated_.words) + " stands more than once" + in, "take it out");
     }
   }
 

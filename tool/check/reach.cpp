@@ -13,6 +13,7 @@
 #include "qdf/support/idset.h"
 #include "tool/check/idsets.h"
 #include "tool/check/rules.h"
+#include "tool/enumerate.h"
 
 namespace check {
 
@@ -190,23 +191,20 @@ class ReachRules {
 
   void TellShadowedIDs(const ElementNode& node, std::size_t level) {
     const Fate& fate = fates_[&node];
-    std::string told;
-    std::size_t more = 0;
+    std::vector<std::string> answered;
     const ElementNode* by = nullptr;
     for (const std::uint32_t id : node.ids) {
-      const auto answered = fate.answeredBy.find(id);
-      if (fate.useful.Holds(id) || answered == fate.answeredBy.end()) continue;
-      constexpr std::size_t kMost = 4;
-      if (by == nullptr) by = answered->second;
-      if (more++ < kMost) told += (told.empty() ? "" : ", ") + Describe(level, id);
-      if (more == kMost + 1) told += " and more";
+      const auto other = fate.answeredBy.find(id);
+      if (fate.useful.Holds(id) || other == fate.answeredBy.end()) continue;
+      if (by == nullptr) by = other->second;
+      answered.push_back(Describe(level, id));
     }
     if (by == nullptr) return;
     const std::string name = node.element.Name();
     findings_.Add(Code::kIDsShadowed, node.element, node.element.Find("ID").ValuePlace(),
-                  "nothing under this " + name + " is ever found for " + told +
-                      ": others answer first, such as the " + name + " on " +
-                      findings_.LineOf(by->element),
+                  "nothing under this " + name + " is ever found for " +
+                      Enumerate(answered, "and", 4) + ": others answer first, such as the " + name +
+                      " on " + findings_.LineOf(by->element),
                   "take the ids out of one of the two");
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tool/check/layout.h"
+#include "tool/utf8.h"
 
 namespace check {
 
@@ -40,8 +41,7 @@ int Utf16Column(const Source& source, Position position) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   const bool isMarked = position.line == 1 && before.substr(0, kMark.size()) == kMark;
   for (const char c : isMarked ? before.substr(kMark.size()) : before) {
-    const auto byte = static_cast<unsigned char>(c);
-    if ((byte & 0xC0U) != 0x80U) units += byte >= 0xF0U ? 2 : 1;
+    if (!ContinuesCharacter(c)) units += static_cast<unsigned char>(c) >= 0xF0U ? 2 : 1;
   }
   return units;
 }

@@ -7,6 +7,8 @@
 #include "qdf/definition/resolutionvalue.h"
 #include "qdf/support/numbers.h"
 #include "qdf/support/text.h"
+#include "tool/enumerate.h"
+#include "tool/utf8.h"
 
 namespace check {
 
@@ -48,14 +50,10 @@ std::string ScannedText(const std::string& text, std::size_t count) {
   std::array<double*, 4> targets{};
   for (std::size_t i = 0; i < targets.size(); ++i) targets[i] = &numbers[i];
   ScanDoubles(text.c_str(), targets.data(), count);
-  std::string all = NumberText(numbers[0]);
-  for (std::size_t i = 1; i < count; ++i) {
-    all += (i + 1 == count ? " and " : ", ") + NumberText(numbers[i]);
-  }
-  return all;
+  std::vector<std::string> words;
+  for (std::size_t i = 0; i < count; ++i) words.push_back(NumberText(numbers[i]));
+  return Enumerate(words, "and", count);
 }
-
-bool ContinuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
 // About so many bytes before the cut, whole characters only.
 std::string_view EndBefore(std::string_view text, std::size_t cut) {
