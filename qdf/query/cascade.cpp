@@ -4,21 +4,7 @@
 #include "qdf/query/recordlists.h"
 #include "qdf/query/treewalk.h"
 
-namespace {
-
-// One step of the cascade: what may follow the node that the ids led to.
-template <class Record>
-int AppendNextLevel(const CQDFNode* node, const APtrArray& list, std::vector<Record>& records,
-                    int& defaultPosition) {
-  defaultPosition = 0;
-  if (node == nullptr) return 0;
-  return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
-}
-
-}  // namespace
-
 const CQDFNode* APMQDF::FindControlPath(std::initializer_list<int> ids) {
-  if (ControlIndexes == nullptr) ControlIndexes = std::make_unique<ChildIndexes>();
   return FindPath(ControlTreeRoot, ids, ControlIndexes.get());
 }
 
@@ -36,33 +22,35 @@ int APMQDF::GetInkTypeList(std::vector<InkTypeInfo>& inks, int& defaultPosition)
 
 int APMQDF::GetMediaTypeList(const int& ink, std::vector<MediaTypeInfo>& media,
                              int& defaultPosition) {
-  return Guarded(0, [&] {
-    return AppendNextLevel(FindControlPath({ink}), MediaList, media, defaultPosition);
-  });
+  defaultPosition = 0;
+  return Guarded(
+      0, [&] { return AppendOptions(FindControlPath({ink}), MediaList, media, defaultPosition); });
 }
 
 int APMQDF::GetPrintModeList(const int& ink, const int& media,
                              std::vector<PrintModeInfo>& printModes, int& defaultPosition) {
+  defaultPosition = 0;
   return Guarded(0, [&] {
-    return AppendNextLevel(FindControlPath({ink, media}), PrintModeList, printModes,
-                           defaultPosition);
+    return AppendOptions(FindControlPath({ink, media}), PrintModeList, printModes, defaultPosition);
   });
 }
 
 int APMQDF::GetResolutionList(const int& ink, const int& media, const int& printMode,
                               std::vector<ResolutionInfo>& resolutions, int& defaultPosition) {
+  defaultPosition = 0;
   return Guarded(0, [&] {
-    return AppendNextLevel(FindControlPath({ink, media, printMode}), ResolutionList, resolutions,
-                           defaultPosition);
+    return AppendOptions(FindControlPath({ink, media, printMode}), ResolutionList, resolutions,
+                         defaultPosition);
   });
 }
 
 int APMQDF::GetColorModeList(const int& ink, const int& media, const int& printMode,
                              const int& resolution, std::vector<ColorModeInfo>& colorModes,
                              int& defaultPosition) {
+  defaultPosition = 0;
   return Guarded(0, [&] {
-    return AppendNextLevel(FindControlPath({ink, media, printMode, resolution}), ColorModeList,
-                           colorModes, defaultPosition);
+    return AppendOptions(FindControlPath({ink, media, printMode, resolution}), ColorModeList,
+                         colorModes, defaultPosition);
   });
 }
 

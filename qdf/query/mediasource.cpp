@@ -6,15 +6,6 @@
 
 namespace {
 
-// The options of a level: the ids of the nodes below `node`. Without a node there is no answer.
-template <class Record>
-int AppendChildren(const CQDFNode* node, const APtrArray& list, std::vector<Record>& records,
-                   int& defaultPosition) {
-  defaultPosition = 0;
-  if (node == nullptr) return 0;
-  return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
-}
-
 int CopyNumbers(const double (&numbers)[4], double& first, double& second, double& third,
                 double& fourth) {
   first = numbers[0];
@@ -35,16 +26,18 @@ int APMQDF::GetFullMediaSizeInfoList(std::vector<MediaSizeInfo>& mediaSizes) {
 }
 
 int APMQDF::GetMediaSourceList(std::vector<MediaSourceInfo>& mediaSources, int& defaultPosition) {
+  defaultPosition = 0;
   return Guarded(0, [&] {
-    return AppendChildren(&MediaSourceTreeRoot, MediaSourceList, mediaSources, defaultPosition);
+    return AppendOptions(&MediaSourceTreeRoot, MediaSourceList, mediaSources, defaultPosition);
   });
 }
 
 int APMQDF::GetMediaSizeList(const int& mediaSource, std::vector<MediaSizeInfo>& mediaSizes,
                              int& defaultPosition) {
+  defaultPosition = 0;
   return Guarded(0, [&] {
-    return AppendChildren(FindChildWithID(MediaSourceTreeRoot, mediaSource), MediaSizeList,
-                          mediaSizes, defaultPosition);
+    return AppendOptions(FindChildWithID(MediaSourceTreeRoot, mediaSource), MediaSizeList,
+                         mediaSizes, defaultPosition);
   });
 }
 

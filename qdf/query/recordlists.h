@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "qdf/query/treewalk.h"
 #include "qdf/support/aarrays.h"
 #include "qdf/support/uniqueids.h"
 
@@ -44,4 +45,13 @@ int AppendAllowed(const APtrArray& list, ADWordArray allowedIDs, int defaultID,
   });
   defaultPosition = position;
   return result;
+}
+
+// The options of a level: the records whose ids stand in nodes below this one, which names the
+// default. Without a node there are none. The default position is 0 on entry.
+template <class Record>
+int AppendOptions(const CQDFNode* node, const APtrArray& list, std::vector<Record>& records,
+                  int& defaultPosition) {
+  if (node == nullptr) return 0;
+  return AppendAllowed(list, MergedChildIDs(*node), node->Default, records, defaultPosition);
 }
