@@ -152,7 +152,8 @@ int AXMLTree::getChild(const char* name, AXMLTreeNode parent, AXMLTreeNode& chil
 int AXMLTree::getChild(int index, AXMLTreeNode parent, AXMLTreeNode& child) const {
   if (index < 0 || parent.element_ == nullptr) return 0;
   Cursor& cursor = cursorAt(parent.depth_);
-  if (cursor.parent != parent.element_ || index < cursor.index) {
+  const bool goesOn = cursor.parent == parent.element_ && cursor.child != nullptr;
+  if (!goesOn || index < cursor.index) {
     const pugi::xml_node first = ElementFrom(pugi::xml_node(parent.element_).first_child());
     cursor = {parent.element_, first.internal_object(), 0};
   }

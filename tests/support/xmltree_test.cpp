@@ -75,7 +75,9 @@ TEST(XMLTree, IsBuiltInTheOrderOfTheCalls) {
   AXMLTreeNode root;
   ASSERT_NE(tree.getRootNode(root), 0);
   EXPECT_EQ(tree.getName(root), "Root");
+  EXPECT_EQ(tree.getChild(0, root, child), 0);
   ASSERT_NE(tree.addItem(item, "item", ""), 0);
+  EXPECT_NE(tree.getChild(0, root, child), 0) << "an item that wasn't there before";
   for (const char* name : {"a", "b", "c"}) ASSERT_NE(tree.addChild(child, item, name, name, -1), 0);
   ASSERT_NE(tree.getChild(1, item, child), 0);
   ASSERT_NE(tree.addChild(child, item, "last", "", 0), 0);
