@@ -75,6 +75,7 @@ int APMQDF::ParseFromXMLTree(AXMLTree* tree) {
     ReadControlDefinition(tree, InkList, MediaList, PrintModeList, ResolutionList, ColorModeList,
                           ControlTreeRoot, ICCProfileList, OEMInfoList, DitherNameList,
                           DitherResolutionList, &dithers);
+    ControlIndexes = std::make_unique<ChildIndexes>(ControlTreeRoot);
     if (MediaSourceList.GetSize() > 0) {
       ReadMediaSourceControl(tree, MediaSourceList, MediaSizeList, MarginInfoList,
                              MediaSourceTreeRoot);

@@ -223,7 +223,7 @@ class APMQDF_EXPORT APMQDF {
 
   // Of the control tree; owns the records of DitherResolutionList.
   std::unique_ptr<DeferredDithers> Dithers;
-  // Of the control tree, from the first search in it until it changes.
+  // Of the control tree, while it is whole.
   std::unique_ptr<ChildIndexes> ControlIndexes;
 
   // The answer of the work, or `failure` and LackedMemory set when memory ran out: some answers

@@ -1,10 +1,10 @@
 #include "qdf/core/childindexes.h"
 
-#include <utility>
-
 #include "qdf/support/idset.h"
 
 namespace {
+
+constexpr int kMany = 64;
 
 void IndexChildren(const CQDFNode& parent, HashIndex& index) {
   IDSet seen;
@@ -19,16 +19,19 @@ void IndexChildren(const CQDFNode& parent, HashIndex& index) {
 
 }  // namespace
 
-int ChildIndexes::FirstHolding(const CQDFNode& parent, std::uint32_t id) {
-  constexpr int kMany = 64;
+void ChildIndexes::Add(const CQDFNode& node) {
+  const int count = node.Children.GetSize();
+  if (count >= kMany) IndexChildren(node, indexes_[&node]);
+  for (int i = 0; i < count; ++i) {
+    if (const CQDFNode* child = ChildAt(node, i)) Add(*child);
+  }
+}
+
+int ChildIndexes::FirstHolding(const CQDFNode& parent, std::uint32_t id) const {
   const int count = parent.Children.GetSize();
   if (count < kMany) return 0;
-  auto found = indexes_.find(&parent);
-  if (found == indexes_.end()) {
-    HashIndex index;
-    IndexChildren(parent, index);
-    found = indexes_.emplace(&parent, std::move(index)).first;
-  }
+  const auto found = indexes_.find(&parent);
+  if (found == indexes_.end()) return 0;
   const int first = found->second.Find(id, [](int) { return true; });
   return first >= 0 ? first : count;
 }

@@ -38,7 +38,9 @@ int APMQDF::LoadHPResourceInfo(APtrArray& resources, APtrArray& oldInks, APtrArr
                           DeriveControlTree(resources, InkList, MediaList, PrintModeList,
                                             ResolutionList, ColorModeList, &ControlTreeRoot,
                                             ICCProfileList, OEMInfoList, DitherNameList) != 0;
-    return complete ? 1 : 0;
+    if (!complete) return 0;
+    ControlIndexes = std::make_unique<ChildIndexes>(ControlTreeRoot);
+    return 1;
   });
 }
 

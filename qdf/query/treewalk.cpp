@@ -10,7 +10,7 @@ bool Holds(CQDFNode* node, int id) {
 }
 
 const CQDFNode* FindFrom(const CQDFNode& node, const int* id, const int* end,
-                         ChildIndexes* indexes) {
+                         const ChildIndexes* indexes) {
   if (id == end) return &node;
   int i = indexes != nullptr ? indexes->FirstHolding(node, static_cast<std::uint32_t>(*id)) : 0;
   for (; i < node.Children.GetSize(); ++i) {
@@ -33,7 +33,7 @@ CQDFNode* FindChildWithID(const CQDFNode& parent, int id) {
 }
 
 const CQDFNode* FindPath(const CQDFNode& root, std::initializer_list<int> ids,
-                         ChildIndexes* indexes) {
+                         const ChildIndexes* indexes) {
   return FindFrom(root, ids.begin(), ids.end(), indexes);
 }
 

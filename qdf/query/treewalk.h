@@ -15,7 +15,7 @@ CQDFNode* FindChildWithID(const CQDFNode& parent, int id);
 // sibling. Null when there is no such path. With indexes it needn't walk over long rows of
 // children.
 const CQDFNode* FindPath(const CQDFNode& root, std::initializer_list<int> ids,
-                         ChildIndexes* indexes = nullptr);
+                         const ChildIndexes* indexes = nullptr);
 
 // The ids of all children, each once, in the order of the children.
 ADWordArray MergedChildIDs(const CQDFNode& node);

@@ -20,7 +20,7 @@ TEST(TreeWalk, FindsTheSamePathsWithIndexes) {
     for (std::uint32_t n = below(4); n > 0; --n) medium->IDs.Add(below(150));
     for (std::uint32_t n = below(3); n > 0; --n) AddChildNode(*medium)->IDs.Add(below(5));
   }
-  ChildIndexes indexes;
+  const ChildIndexes indexes(root);
   int found = 0;
   for (int medium = 0; medium < 150; ++medium) {
     for (int printMode = 0; printMode < 5; ++printMode) {
