@@ -27,9 +27,14 @@ void DeferredDithers::BeginTree(std::unique_ptr<AXMLTree> tree) {
   ownTree_ = std::move(tree);
 }
 
+void DeferredDithers::EndTree() {
+  if (unread_ == 0) ReadAll();
+}
+
 void DeferredDithers::Put(CQDFNode& colorMode, const AXMLTreeNode& element) {
   if (ownTree_ != nullptr) {
     entries_.push_back({&colorMode, element});
+    ++unread_;
   } else {
     Read(colorMode, element);
   }
@@ -49,6 +54,7 @@ void DeferredDithers::Read(const CQDFNode& colorMode) {
   const auto isOfNode = [&](int i) { return entryAt(i).colorMode == &colorMode; };
   const int found = index_->Find(HashOf(colorMode), isOfNode);
   if (found >= 0) ReadNow(entryAt(found));
+  EndTree();
 }
 
 void DeferredDithers::ReadAll() {
@@ -63,6 +69,7 @@ void DeferredDithers::ReadNow(Entry& entry) {
   if (entry.colorMode == nullptr) return;
   Read(*entry.colorMode, entry.element);
   entry.colorMode = nullptr;
+  --unread_;
 }
 
 void DeferredDithers::Read(CQDFNode& colorMode, const AXMLTreeNode& element) {

@@ -25,11 +25,15 @@ class DeferredDithers {
   // The same with a tree that this keeps. To begin it once more changes nothing.
   void BeginTree(std::unique_ptr<AXMLTree> tree);
 
+  // A kept tree of which nothing is put off is let go.
+  void EndTree();
+
   // The node of a ColorMode element: put off when the tree is kept, else read now.
   void Put(CQDFNode& colorMode, const AXMLTreeNode& element);
 
-  // Gives the colour mode node its two other leaves, unless it has them. When memory runs out
-  // bad_alloc passes through and the node is as it was: it can be asked again.
+  // Gives the colour mode node its two other leaves, unless it has them. With the last of them the
+  // tree is let go. When memory runs out bad_alloc passes through and the node is as it was: it can
+  // be asked again.
   void Read(const CQDFNode& colorMode);
 
   // The same for all nodes in the order of the document. The tree is then let go.
@@ -50,5 +54,6 @@ class DeferredDithers {
   std::unique_ptr<AXMLTree> ownTree_;
   std::optional<DitherListReader> reader_;
   std::vector<Entry> entries_;
+  std::size_t unread_ = 0;          // of the entries
   std::optional<HashIndex> index_;  // of the entries, by their nodes; made when one is looked for
 };

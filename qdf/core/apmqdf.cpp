@@ -51,7 +51,9 @@ int APMQDF::LoadQDFFile(AFilePath& path) {
     if (tree->loadFromFile(path, 1) == 0) return 0;
     AXMLTree* document = tree.get();
     ControlDithers().BeginTree(std::move(tree));
-    return ParseFromXMLTree(document);
+    const int result = ParseFromXMLTree(document);
+    ControlDithers().EndTree();
+    return result;
   });
 }
 

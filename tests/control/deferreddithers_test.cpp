@@ -1,0 +1,85 @@
+// Dithers that are read late, and lists of them that repeat the one before.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <iterator>
+
+#include "qdf/core/documentmembers.h"
+#include "tests/documents.h"
+#include "tests/files.h"
+
+namespace {
+
+// The names on offer and the RIP resolution of "d" for these ids.
+std::string Dithers(APMQDF& document, const std::array<int, 5>& ids) {
+  const auto [ink, media, printMode, resolution, colorMode] = ids;
+  std::vector<AString> names;
+  AString preselected;
+  double x = 0.0;
+  double y = 0.0;
+  document.GetDitherList(ink, media, printMode, resolution, colorMode, names, preselected);
+  document.GetRipResolutionForDither(ink, media, printMode, resolution, colorMode, "d", x, y);
+  return Dump(names) + ' ' + std::to_string(static_cast<int>(x)) + 'x' +
+         std::to_string(static_cast<int>(y));
+}
+
+constexpr const char* kDithers =
+    "<DitherList><Dither Name='d' RipResolution='600x300'/><Dither Name='e'/></DitherList>";
+
+TEST(DeferredDithers, RepeatOnlyWhatIsTheSame) {
+  std::string control = Control("[1[1[1[1[1;2;3;4;5;6]]]]]", kDithers);
+  const struct {
+    int id;
+    const char* from;
+    const char* to;
+    const char* dithers;
+  } rows[] = {{1, "", "", "d|e 600x300"},
+              {2, "", "", "d|e 600x300"},
+              {3, "600x300", "72", "d|e 72x72"},
+              {4, "<DitherList>", "<DitherList SupportAll='1'>", " 600x300"},
+              {5, "'e'", "'f'", "d|f 600x300"},
+              {6, "<Dither Name='e'/>", "", "d 600x300"}};
+  for (const auto& row : rows) {
+    const std::size_t mode = control.find("<ColorMode ID=\"" + std::to_string(row.id));
+    control.replace(control.find(row.from, mode), std::string(row.from).size(), row.to);
+  }
+  const DocumentText text{.ColorModeList = ColorModes("1;2;3;4;5;6"), .Control = control};
+  const auto inOrder = Load(text);
+  const auto backwards = Load(text);
+  ASSERT_NE(inOrder, nullptr);
+  for (const auto& row : rows) {
+    EXPECT_EQ(Dithers(*inOrder, {1, 1, 1, 1, row.id}), row.dithers) << row.id;
+  }
+  for (auto row = std::rbegin(rows); row != std::rend(rows); ++row) {
+    EXPECT_EQ(Dithers(*backwards, {1, 1, 1, 1, row->id}), row->dithers) << row->id;
+  }
+}
+
+// So many inks that a search takes an index, which the second file adds to.
+TEST(DeferredDithers, OfBothFilesAreAnsweredAfterASecondLoad) {
+  std::string inks = "1";
+  std::string nodes = "1[1[1[1[1]]]]";
+  for (int id = 2; id <= 70; ++id) {
+    inks += ';' + std::to_string(id);
+    nodes += ';' + std::to_string(id) + "[1[1[1[1]]]]";
+  }
+  const DocumentText first{.InkList = Entries(inks),
+                           .Control = Control('[' + nodes + ']', kDithers)};
+  const DocumentText second{
+      .InkList = Entries("71"),
+      .Control = Control("[71[1[1[1[1]]]]]", "<DitherList><Dither Name='g'/></DitherList>")};
+  const TempFolder folder;
+  AFilePath firstPath(folder.Write("first", first.Text()).c_str());
+  AFilePath secondPath(folder.Write("second", second.Text()).c_str());
+  APMQDF document;
+  EXPECT_EQ(document.LoadQDFFile(firstPath), 1);
+  EXPECT_EQ(Dithers(document, {2, 1, 1, 1, 1}), "d|e 600x300");
+  EXPECT_EQ(Dithers(document, {71, 1, 1, 1, 1}), " 0x0");
+  EXPECT_EQ(document.LoadQDFFile(secondPath), 1);
+  EXPECT_EQ(Dithers(document, {70, 1, 1, 1, 1}), "d|e 600x300");
+  EXPECT_EQ(Dithers(document, {71, 1, 1, 1, 1}), "g 0x0");
+  EXPECT_EQ(Dump(DocumentMembers(document).DitherNameList), "d|e|g");
+}
+
+}  // namespace
