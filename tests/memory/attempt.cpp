@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 #include <pugixml.hpp>
@@ -17,7 +18,7 @@ struct {
   long live = 0;
 } memory;
 
-void* Allocate(std::size_t size) {
+void* Allocate(std::size_t size, std::size_t alignment) {
   const bool refuse = memory.allowed == 0;
   if (memory.allowed > 0) --memory.allowed;
   if (refuse) {
@@ -26,16 +27,19 @@ void* Allocate(std::size_t size) {
     return nullptr;
   }
   ++memory.live;
-  return std::malloc(size > 0 ? size : 1);
+  return std::aligned_alloc(alignment, (size / alignment + 1) * alignment);
 }
+
+// As the parser wants it.
+void* Allocate(std::size_t size) { return Allocate(size, alignof(std::max_align_t)); }
 
 void Release(void* block) {
   if (block != nullptr) --memory.live;
   std::free(block);
 }
 
-void* AllocateOrThrow(std::size_t size) {
-  void* block = Allocate(size);
+void* AllocateOrThrow(std::size_t size, std::size_t alignment = alignof(std::max_align_t)) {
+  void* block = Allocate(size, alignment);
   if (block == nullptr) throw std::bad_alloc();
   return block;
 }
@@ -51,10 +55,15 @@ const bool kParserUsesThem = [] {
 void* operator new(std::size_t size) { return AllocateOrThrow(size); }
 void* operator new[](std::size_t size) { return AllocateOrThrow(size); }
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void* operator new(std::size_t size, std::align_val_t alignment) {
+  return AllocateOrThrow(size, static_cast<std::size_t>(alignment));
+}
 void operator delete(void* block) noexcept { Release(block); }
 void operator delete[](void* block) noexcept { Release(block); }
 void operator delete(void* block, std::size_t) noexcept { Release(block); }
 void operator delete[](void* block, std::size_t) noexcept { Release(block); }
+void operator delete(void* block, std::align_val_t) noexcept { Release(block); }
+void operator delete(void* block, std::size_t, std::align_val_t) noexcept { Release(block); }
 
 void Attempt::Begin() {
   memory.allowed = allowed_;

@@ -62,15 +62,18 @@ TEST_F(NoMemory, LoadsGiveNothing) {
   });
 }
 
-// A question with these ids that is asked with a vector that holds something already.
-template <class Record, class Ask, class Chosen, class... ID>
-void CheckQuestion(APMQDF& document, Ask ask, Chosen chosen, ID... ids) {
+// A question with these ids that is asked with a vector and a default that hold something already.
+template <class Record, class Ask, class Default, class... ID>
+void CheckQuestion(APMQDF& document, Ask ask, Default former, ID... ids) {
   std::vector<Record> all;
-  ASSERT_NE((document.*ask)(ids..., all, chosen), 0);
+  Default preselected = former;
+  ASSERT_NE((document.*ask)(ids..., all, preselected), 0);
   WithEveryAllocation(typeid(Record).name(), [&](Attempt& attempt) {
     std::vector<Record> records(1);
-    const int result = attempt.Try([&] { return (document.*ask)(ids..., records, chosen); });
+    preselected = former;
+    const int result = attempt.Try([&] { return (document.*ask)(ids..., records, preselected); });
     EXPECT_EQ(result == 0, attempt.Refused());
+    EXPECT_TRUE(!attempt.Refused() || preselected == Default());
     EXPECT_EQ(records.size(), attempt.Refused() ? 1 : 1 + all.size());
   });
 }
@@ -79,34 +82,20 @@ TEST_F(NoMemory, QuestionsLeaveTheVector) {
   using D = APMQDF;
   const auto example = Example();
   D& d = *example;
-  CheckQuestion<InkTypeInfo>(d, &D::GetInkTypeList, 0);
-  CheckQuestion<MediaTypeInfo>(d, &D::GetMediaTypeList, 0, 1);
-  CheckQuestion<PrintModeInfo>(d, &D::GetPrintModeList, 0, 1, 1);
-  CheckQuestion<ResolutionInfo>(d, &D::GetResolutionList, 0, 1, 1, 1);
-  CheckQuestion<ColorModeInfo>(d, &D::GetColorModeList, 0, 1, 1, 1, 1);
-  CheckQuestion<MediaSourceInfo>(d, &D::GetMediaSourceList, 0);
-  CheckQuestion<MediaSizeInfo>(d, &D::GetMediaSizeList, 0, 1);
-  CheckQuestion<MarginInfo>(d, &D::GetMarginInfoList, 0, 1, 1);
-  CheckQuestion<AString>(d, &D::GetProfileList, AString(), 1, 1, 1, 1, 1);
-  CheckQuestion<AString>(d, &D::GetDitherList, AString(), 1, 1, 1, 1, 1);
+  CheckQuestion<InkTypeInfo>(d, &D::GetInkTypeList, 7);
+  CheckQuestion<MediaTypeInfo>(d, &D::GetMediaTypeList, 7, 1);
+  CheckQuestion<PrintModeInfo>(d, &D::GetPrintModeList, 7, 1, 1);
+  CheckQuestion<ResolutionInfo>(d, &D::GetResolutionList, 7, 1, 1, 1);
+  CheckQuestion<ColorModeInfo>(d, &D::GetColorModeList, 7, 1, 1, 1, 1);
+  CheckQuestion<MediaSourceInfo>(d, &D::GetMediaSourceList, 7);
+  CheckQuestion<MediaSizeInfo>(d, &D::GetMediaSizeList, 7, 1);
+  CheckQuestion<MarginInfo>(d, &D::GetMarginInfoList, 7, 1, 1);
+  CheckQuestion<AString>(d, &D::GetProfileList, AString("x"), 1, 1, 1, 1, 1);
+  CheckQuestion<AString>(d, &D::GetDitherList, AString("x"), 1, 1, 1, 1, 1);
 }
 
-// What a document notes down to answer faster is whole or isn't there.
+// Dithers that are read late are all there or not at all.
 TEST_F(NoMemory, FirstQuestionsLeaveLaterOnesRight) {
-  std::vector<std::string> ids;
-  for (int id = 1; id <= 100; ++id) ids.push_back(std::to_string(id));
-  const DocumentText text{.MediaList = Entries(Join(ids, ";")),
-                          .Control = Control("[1[" + Join(ids, "[1[1[1]]];") + "[1[1[1]]]]]")};
-  WithEveryAllocation("first question", [&](Attempt& attempt) {
-    const auto document = Load(text);
-    std::vector<PrintModeInfo> modes;
-    int at = 0;
-    const auto ask = [&] { return document->GetPrintModeList(1, 99, modes, at); };
-    EXPECT_TRUE(attempt.FailsWhenRefused(ask));
-    modes.clear();
-    EXPECT_EQ(ask(), 1);
-    EXPECT_EQ(IDs(modes), "1");
-  });
   const std::string tree = Dump(DocumentMembers(*Example()).ControlTreeRoot);
   WithEveryAllocation("first question for dithers", [&](Attempt& attempt) {
     const auto document = Example();
@@ -131,7 +120,7 @@ TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
                                "<PrinterSpecificSetting>" + longText + "</PrinterSpecificSetting>"),
             .SourceControl = SourceControl(">1[1,2[1];2[1]]")});
   AString oemInfo;
-  document->GetOEMInfo(1, 1, 1, 1, 1, oemInfo);  // notes down the way to it
+  document->GetOEMInfo(1, 1, 1, 1, 1, oemInfo);  // the first question has the dithers read
   WithEveryAllocation("product type", [&](Attempt& attempt) {
     AString text;
     attempt.Try([&] { text = document->GetProdcutType(); });
