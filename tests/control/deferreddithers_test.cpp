@@ -28,7 +28,7 @@ constexpr const char* kDithers =
     "<DitherList><Dither Name='d' RipResolution='600x300'/><Dither Name='e'/></DitherList>";
 
 TEST(DeferredDithers, RepeatOnlyWhatIsTheSame) {
-  std::string control = Control("[1[1[1[1[1;2;3;4;5;6]]]]]", kDithers);
+  std::string control = Control("[1[1[1[1[1;2;3;4;5;6;7;8;9]]]]]", kDithers);
   const struct {
     int id;
     const char* from;
@@ -37,14 +37,17 @@ TEST(DeferredDithers, RepeatOnlyWhatIsTheSame) {
   } rows[] = {{1, "", "", "d|e 600x300"},
               {2, "", "", "d|e 600x300"},
               {3, "600x300", "72", "d|e 72x72"},
-              {4, "<DitherList>", "<DitherList SupportAll='1'>", " 600x300"},
-              {5, "'e'", "'f'", "d|f 600x300"},
-              {6, "<Dither Name='e'/>", "", "d 600x300"}};
+              {4, "", "", "d|e 600x300"},
+              {5, "<DitherList>", "<DitherList SupportAll='1'>", " 600x300"},
+              {6, "", "", "d|e 600x300"},
+              {7, "'e'", "'f'", "d|f 600x300"},
+              {8, "", "", "d|e 600x300"},
+              {9, "<Dither Name='e'/>", "", "d 600x300"}};
   for (const auto& row : rows) {
     const std::size_t mode = control.find("<ColorMode ID=\"" + std::to_string(row.id));
     control.replace(control.find(row.from, mode), std::string(row.from).size(), row.to);
   }
-  const DocumentText text{.ColorModeList = ColorModes("1;2;3;4;5;6"), .Control = control};
+  const DocumentText text{.ColorModeList = ColorModes("1;2;3;4;5;6;7;8;9"), .Control = control};
   const auto inOrder = Load(text);
   const auto backwards = Load(text);
   ASSERT_NE(inOrder, nullptr);
