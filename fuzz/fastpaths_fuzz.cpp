@@ -1,5 +1,6 @@
 // Where an index or a better algorithm replaced a plain loop: both are run and compared.
 
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -106,61 +107,177 @@ void GrowsLikeAWalk(Choices& choose) {
 struct Dither {
   std::string name, resolution;
 };
+struct DitherList {
+  std::string supportAll, preselected;
+  std::vector<Dither> dithers;
+};
 
-// "name 600x300": a record, once for equal ones.
-std::vector<std::string> PlainRecords(const std::vector<Dither>& dithers) {
-  std::vector<std::string> records;
-  for (const Dither& dither : dithers) {
-    const std::size_t mark = dither.resolution.find_first_of("xX");
-    const double x = std::atof(dither.resolution.substr(0, mark).c_str());
-    const double y =
-        mark != std::string::npos ? std::atof(dither.resolution.substr(mark + 1).c_str()) : x;
-    if (dither.name.empty() || x <= 0 || y <= 0) continue;
-    std::string record = dither.name.substr(0, 64) + " " + std::to_string(static_cast<int>(x)) +
-                         "x" + std::to_string(static_cast<int>(y));
-    if (std::find(records.begin(), records.end(), record) == records.end())
-      records.push_back(std::move(record));
-  }
-  return records;
+constexpr const char* kResolutions[] = {"600", "600.2x300", "600.9X300.5", "0",      "0.5",
+                                        "",    "-1x600",    "x",           "300x600"};
+constexpr const char* kSupportAll[] = {"0", "", "1", "-1", " 2x"};
+constexpr const char* kPreselected[] = {"a", " a ", "", " ", "A"};
+
+std::string DitherName(Choices& choose) {
+  const std::string begin = choose.OneOf(kNames);
+  const std::string middle(choose.Chance(8) ? 64 : 0, 'n');
+  return begin + middle + choose.OneOf(kNames);
 }
 
-void ReadsDithersLikeALoop(Choices& choose) {
-  std::vector<Dither> dithers(choose.Below(40));
-  AXMLTree tree("DitherList");
-  AXMLTreeNode list;
-  tree.getRootNode(list);
-  for (Dither& dither : dithers) {
-    dither.name = std::string(choose.OneOf(kNames)) + std::string(choose.Chance(8) ? 64 : 0, 'n') +
-                  choose.OneOf(kNames);
-    dither.resolution =
-        choose.OneOf({"600", "600.2x300", "600.9X300.5", "0", "0.5", "-1x600", "", "x", "300x600"});
-    AXMLTreeNode element;
-    tree.addChild(element, list, "Dither", "", -1);
-    tree.setAttribute(element, "Name", dither.name.c_str());
-    tree.setAttribute(element, "RipResolution", dither.resolution.c_str());
+// Lists of which many repeat the one before, or differ from it in one thing.
+std::vector<DitherList> ChooseLists(Choices& choose) {
+  DitherList list;
+  list.dithers.resize(choose.Below(20) + 1);
+  for (Dither& dither : list.dithers) {
+    dither.name = DitherName(choose);
+    dither.resolution = choose.OneOf(kResolutions);
   }
-  CQDFNode ditherNode;
-  CQDFNode ripNode;
+  std::vector<DitherList> lists{list};
+  for (unsigned int i = choose.Below(12); i > 0; --i) {
+    const auto place = choose.Below(static_cast<unsigned int>(list.dithers.size()));
+    switch (choose.Below(6)) {
+      case 0:
+        list.dithers[place].name = DitherName(choose);
+        break;
+      case 1:
+        list.dithers[place].resolution = choose.OneOf(kResolutions);
+        break;
+      case 2:
+        list.dithers.resize(place + 1);
+        break;
+      case 3:
+        list.supportAll = choose.OneOf(kSupportAll);
+        break;
+      default:
+        list.preselected = choose.OneOf(kPreselected);
+    }
+    lists.push_back(list);
+  }
+  return lists;
+}
+
+// The ColorMode elements of the lists.
+std::vector<AXMLTreeNode> AddElements(AXMLTree& tree, const std::vector<DitherList>& lists) {
+  AXMLTreeNode root;
+  tree.getRootNode(root);
+  std::vector<AXMLTreeNode> elements;
+  for (const DitherList& each : lists) {
+    AXMLTreeNode& colorMode = elements.emplace_back();
+    AXMLTreeNode list;
+    AXMLTreeNode element;
+    tree.addChild(colorMode, root, "ColorMode", "", -1);
+    tree.setAttribute(colorMode, "DefaultDither", each.preselected.c_str());
+    tree.addChild(list, colorMode, "DitherList", "", -1);
+    tree.setAttribute(list, "SupportAll", each.supportAll.c_str());
+    for (const Dither& dither : each.dithers) {
+      tree.addChild(element, list, "Dither", "", -1);
+      tree.setAttribute(element, "Name", dither.name.c_str());
+      tree.setAttribute(element, "RipResolution", dither.resolution.c_str());
+    }
+  }
+  return elements;
+}
+
+// "1,2>0 5,6": a colour mode's dithers, the default and the records.
+std::string DumpLeaves(const ADWordArray& dithers, int preselected, const ADWordArray& records) {
+  return Dump(dithers) + ">" + std::to_string(preselected) + " " + Dump(records);
+}
+std::string DumpLeaves(const CQDFNode& ditherNode, const CQDFNode& ripNode) {
+  return DumpLeaves(ditherNode.IDs, ditherNode.Default, ripNode.IDs);
+}
+
+// "owner name x y"
+std::string DumpRecord(std::size_t owner, const std::string& name, double x, double y) {
+  return Join({std::to_string(owner), name, std::to_string(x), std::to_string(y)}, " ");
+}
+std::string DumpRecords(const APtrArray& list, const std::vector<const CQDFNode*>& owners) {
+  std::vector<std::string> texts;
+  for (const auto& each : Records<DitherResolutionInfo>(list)) {
+    const auto owner = std::find(owners.begin(), owners.end(), each.OwnerNode) - owners.begin();
+    texts.push_back(DumpRecord(static_cast<std::size_t>(owner), Str(each.Name), each.XResolution,
+                               each.YResolution));
+  }
+  return Join(texts, "|");
+}
+
+// Reads each list alone and with loops.
+struct PlainDithers {
+  std::string Read(const DitherList& list, std::size_t owner) {
+    const std::string preselected(Trimmed(list.preselected));
+    const int index = preselected.empty() ? -1 : PlainIntern(names, preselected.c_str(), true);
+    ADWordArray dithers;
+    ADWordArray recordIDs;
+    std::vector<std::string> known;
+    for (const auto& [name, resolution] : list.dithers) {
+      if (name.empty()) continue;
+      if (std::atoi(list.supportAll.c_str()) <= 0) {
+        const auto id = static_cast<std::uint32_t>(PlainIntern(names, name.c_str(), true));
+        if (IsIDInArray(id, dithers) == 0) dithers.Add(id);
+      }
+      const std::size_t mark = resolution.find_first_of("xX");
+      const double x = std::atof(resolution.substr(0, mark).c_str());
+      const double y =
+          mark != std::string::npos ? std::atof(resolution.substr(mark + 1).c_str()) : x;
+      const std::string field = name.substr(0, 64);
+      const std::string whole = DumpRecord(owner, field, std::floor(x), std::floor(y));
+      const bool isNew = std::find(known.begin(), known.end(), whole) == known.end();
+      if (x <= 0 || y <= 0 || !isNew) continue;
+      known.push_back(whole);
+      recordIDs.Add(static_cast<std::uint32_t>(records.size()));
+      records.push_back(DumpRecord(owner, field, x, y));
+    }
+    return DumpLeaves(dithers, index, recordIDs);
+  }
+
+  std::vector<AString> names;
+  std::vector<std::string> records;
+};
+
+// One reader for all lists.
+void AddsLeavesLikeALoop(const std::vector<DitherList>& lists) {
+  AXMLTree tree("ColorModes");
+  const std::vector<AXMLTreeNode> elements = AddElements(tree, lists);
+  PlainDithers plain;
+  AStringArray names;
+  APtrArray records;
+  DitherResolutionBlocks blocks;
+  DitherListReader reader(tree, names, records, &blocks);
+  std::vector<CQDFNode> colorModes(lists.size());
+  std::vector<const CQDFNode*> owners;
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    reader.AddLeaves(colorModes[i], elements[i]);
+    owners.push_back(ChildAt(colorModes[i], 1));
+    RequireEqual(plain.Read(lists[i], i), DumpLeaves(*ChildAt(colorModes[i], 0), *owners[i]),
+                 "the leaves of adjacent lists");
+  }
+  RequireEqual(Dump(plain.names), Dump(names), "the dithers' names");
+  RequireEqual(Join(plain.records, "|"), DumpRecords(records, owners), "the resolutions");
+}
+
+// A reader for each list, which fills leaves that it has filled before.
+void ReadsDithersLikeALoop(const std::vector<DitherList>& lists) {
+  AXMLTree tree("ColorModes");
+  const std::vector<AXMLTreeNode> elements = AddElements(tree, lists);
+  PlainDithers plain;
   AStringArray names;
   OwnedItems<DitherResolutionInfo> records;
-  ReadDitherList(&ditherNode, &ripNode, &tree, list, names, records, " a ");
-  std::vector<AString> plainNames{"a"};
-  ADWordArray plainIDs;
-  for (const Dither& dither : dithers) {
-    if (dither.name.empty()) continue;
-    const auto index =
-        static_cast<std::uint32_t>(PlainIntern(plainNames, dither.name.c_str(), true));
-    if (IsIDInArray(index, plainIDs) == 0) plainIDs.Add(index);
+  std::vector<CQDFNode> ripNodes(lists.size());
+  std::vector<const CQDFNode*> owners;
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    const std::string expected = plain.Read(lists[i], i);
+    CQDFNode ditherNode;
+    ditherNode.Default = -1;
+    owners.push_back(&ripNodes[i]);
+    AXMLTreeNode list;
+    tree.getChild("DitherList", elements[i], list);
+    for (int times = 1; times <= 2; ++times) {
+      ReadDitherList(&ditherNode, &ripNodes[i], &tree, list, names, records,
+                     lists[i].preselected.c_str());
+      RequireEqual(expected, DumpLeaves(ditherNode, ripNodes[i]), "the leaves of a list");
+    }
   }
-  RequireEqual(Dump(plainNames), Dump(names), "the dithers' names");
-  RequireEqual(Dump(plainIDs), Dump(ditherNode.IDs), "the dithers of a colour mode");
-  std::vector<std::string> read;
-  for (const auto& each : Records<DitherResolutionInfo>(records)) {
-    read.push_back(Str(each.Name) + " " + std::to_string(static_cast<int>(each.XResolution)) + "x" +
-                   std::to_string(static_cast<int>(each.YResolution)));
-  }
-  RequireEqual(Join(PlainRecords(dithers), "|"), Join(read, "|"), "the dithers' resolutions");
-  Require(ripNode.IDs.GetSize() == records.GetSize(), "each record belongs to the colour mode");
+  RequireEqual(Dump(plain.names), Dump(names), "the dithers' names of single lists");
+  RequireEqual(Join(plain.records, "|"), DumpRecords(records, owners),
+               "the resolutions of single lists");
 }
 
 }  // namespace
@@ -171,6 +288,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   MergesLikeALoop(choose);
   GrowsLikeAWalk(choose);
   InternsLikeALoop(choose);
-  ReadsDithersLikeALoop(choose);
+  const std::vector<DitherList> lists = ChooseLists(choose);
+  AddsLeavesLikeALoop(lists);
+  ReadsDithersLikeALoop(lists);
   return 0;
 }
