@@ -21,7 +21,9 @@ constexpr const char* kQualities[] = {"best",  "BEST",  "SuperBest", "fastest",
 constexpr double kNumbers[] = {600, 300, 0.0, -0.0, std::numeric_limits<double>::quiet_NaN()};
 
 std::string Name(Choices& choose) {
-  return choose.OneOf(kNames) + (choose.Chance(16) ? std::string(255 + choose.Below(3), 'n') : "");
+  std::string name = choose.OneOf(kNames);
+  if (choose.Chance(16)) name.append(255 + choose.Below(3), 'n');
+  return name;
 }
 
 void AddResource(Choices& choose, Resources& resources) {

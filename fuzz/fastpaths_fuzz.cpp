@@ -64,8 +64,9 @@ void InternsLikeALoop(Choices& choose) {
   }
   NameTable table(fast, exact ? NameCase::Exact : NameCase::Ignored);
   for (unsigned int i = choose.Below(60); i > 0; --i) {
-    const std::string name =
-        std::string(choose.OneOf(kNames)) + choose.OneOf(kNames) + choose.Text(12);
+    std::string name = choose.OneOf(kNames);
+    name += choose.OneOf(kNames);
+    name += choose.Text(12);
     Require(table.Intern(name) == PlainIntern(plain, name.c_str(), exact), "a name gets its index");
   }
   RequireEqual(Dump(plain), Dump(fast), "the names");
@@ -77,7 +78,8 @@ void MergesLikeALoop(Choices& choose) {
   for (unsigned int i = choose.Below(30); i > 0; --i) target.Add(choose.Below(16));
   for (unsigned int i = choose.Below(50); i > 0; --i) {
     // Equal in all low bits, so that they crowd the same slots.
-    source.Add(choose.Below(32) << (choose.Below(4) * 8U));
+    const unsigned int number = choose.Below(32);
+    source.Add(number << (choose.Below(4) * 8U));
   }
   ADWordArray plain(target);
   for (const std::uint32_t id : source) {

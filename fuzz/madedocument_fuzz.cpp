@@ -1,5 +1,6 @@
 // Documents made from choices: well-formed, with small ids that meet each other, deep trees, and in
-// each place a text that is likely to be misread there.
+// each place a text that is likely to be misread there. No expression takes more than one choice,
+// so that an input makes the same document whatever the compiler.
 
 #include "fuzz/documentproperties.h"
 
@@ -29,7 +30,11 @@ constexpr Level kLevels[] = {{"Ink", "DefaultMedia"},
 
 class Maker {
  public:
-  explicit Maker(std::string_view choices) : choose_(choices) {}
+  // The parts of a document have a third of the choices each: none waits for what others leave.
+  explicit Maker(std::string_view choices)
+      : definition_(choices.substr(0, choices.size() / 3)),
+        control_(choices.substr(definition_.size(), choices.size() / 3)),
+        mediaSources_(choices.substr(definition_.size() + control_.size())) {}
 
   std::string Document() {
     const auto entry = [&] {
@@ -39,6 +44,7 @@ class Maker {
       for (const char* name : {"PCLid", "IsRoll"}) AddText(name, Number());
       Add("ColorantList", "", [&] { Repeat(2, [&] { AddColorant(); }); });
     };
+    choose_ = Choices(definition_);
     Add("Definition", "", [&] {
       for (const char* name : {"ProductType", "TranslationTable", "CustomMediaFile"})
         AddText(name, Name());
@@ -47,7 +53,9 @@ class Maker {
         Add(name, "", [&] { Repeat(6, [&] { Add("e", "", entry); }); });
       }
     });
+    choose_ = Choices(control_);
     Add("Control_Definition", Attribute("DefaultInk", ID()), [&] { AddLevel(0); });
+    choose_ = Choices(mediaSources_);
     Add("MediaSource_Control", Attribute("DefaultMediaSourceID", ID()),
         [&] { Repeat(3, [&] { AddMediaSource(); }); });
     return "<QDF_Info>" + text_ + "</QDF_Info>";
@@ -75,10 +83,22 @@ class Maker {
     const std::vector<std::string> all = Split(texts);
     return all[choose_.Below(static_cast<unsigned int>(all.size()))];
   }
-  std::string ID() { return (choose_.Chance(64) ? "-" : "") + std::to_string(choose_.Below(9)); }
-  std::string IDs() { return choose_.Chance(4) ? OneOf(kIDLists) : ID() + "," + ID(); }
+  std::string ID() {
+    const std::string sign = choose_.Chance(64) ? "-" : "";
+    return sign + std::to_string(choose_.Below(9));
+  }
+  std::string IDs() {
+    if (choose_.Chance(4)) return OneOf(kIDLists);
+    const std::string first = ID();
+    return first + "," + ID();
+  }
   std::string Number() { return OneOf(kNumbers); }
-  std::string Numbers() { return Number() + choose_.OneOf({" ", ",", "x"}) + Number() + " 1,.5"; }
+  std::string Numbers() {
+    std::string numbers = Number();
+    numbers += choose_.OneOf({" ", ",", "x"});
+    numbers += Number();
+    return numbers + " 1,.5";
+  }
   // Now and then long enough to fill every field.
   std::string Name() {
     std::string name = OneOf(kNames);
@@ -100,10 +120,10 @@ class Maker {
     const bool last = level + 1 == std::size(kLevels);
     const Level& names = kLevels[level];
     Repeat(level < 2 ? 3 : 2, [&] {
-      const std::string attributes =
-          Attribute("ID", IDs()) + Attribute(names.defaultAttribute, last ? Name() : ID());
-      Add(names.element, attributes + Attribute("DefaultDither", Name()),
-          [&] { last ? AddLeaves() : AddLevel(level + 1); });
+      std::string attributes = Attribute("ID", IDs());
+      attributes += Attribute(names.defaultAttribute, last ? Name() : ID());
+      attributes += Attribute("DefaultDither", Name());
+      Add(names.element, attributes, [&] { last ? AddLeaves() : AddLevel(level + 1); });
     });
   }
 
@@ -112,22 +132,28 @@ class Maker {
     Repeat(3, [&] { AddText("ICCProfile", Name()); });
     Add("DitherList", Attribute("SupportAll", choose_.OneOf({"", "0", "1", "-1"})), [&] {
       Repeat(3, [&] {
-        Add("Dither", Attribute("Name", Name()) + Attribute("RipResolution", Number()), [] {});
+        const std::string name = Attribute("Name", Name());
+        Add("Dither", name + Attribute("RipResolution", Number()), [] {});
       });
     });
   }
 
   void AddMediaSource() {
-    Add("MediaSource", Attribute("ID", IDs()) + Attribute("DefaultMediaSizeID", ID()), [&] {
+    const std::string ids = Attribute("ID", IDs());
+    Add("MediaSource", ids + Attribute("DefaultMediaSizeID", ID()), [&] {
       Repeat(3, [&] {
-        const std::string margins =
-            Attribute("MarginIDList", IDs()) + Attribute("DefaultMarginID", ID());
-        Add("MediaSize", Attribute("ID", IDs()) + margins, [] {});
+        std::string attributes = Attribute("ID", IDs());
+        attributes += Attribute("MarginIDList", IDs());
+        attributes += Attribute("DefaultMarginID", ID());
+        Add("MediaSize", attributes, [] {});
       });
     });
   }
 
-  Choices choose_;
+  std::string_view definition_;
+  std::string_view control_;
+  std::string_view mediaSources_;
+  Choices choose_{{}};
   std::string text_;
 };
 

@@ -32,7 +32,8 @@ constexpr const char* kPieces[] = {
 std::string Content(Choices& choose) {
   std::string content = choose.OneOf(kPieces);
   for (unsigned int i = choose.Below(6); i > 0; --i) content += choose.OneOf(kPieces);
-  return content + (choose.Chance(4) ? "" : "</r>") + choose.Text(4);
+  if (!choose.Chance(4)) content += "</r>";
+  return content + choose.Text(4);
 }
 
 void AddEntry(Choices& choose, const TempFolder& folder) {
@@ -55,9 +56,8 @@ void AddEntry(Choices& choose, const TempFolder& folder) {
       break;
     default:
       if (fs::is_symlink(folder.Path("tree/" + media))) break;
-      folder.Write(
-          below + media + "_" + quality + choose.OneOf({".xml", ".XML", ".txt", ".xml", ".xml"}),
-          Content(choose));
+      const std::string ending = choose.OneOf({".xml", ".XML", ".txt", ".xml", ".xml"});
+      folder.Write(below + media + "_" + quality + ending, Content(choose));
   }
 }
 
