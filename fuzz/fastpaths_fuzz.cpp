@@ -12,6 +12,7 @@
 #include "qdf/definition/records.h"
 #include "qdf/hpimport/derivecontroltree.h"
 #include "qdf/hpimport/growingtree.h"
+#include "qdf/query/treewalk.h"
 #include "qdf/support/ownership.h"
 #include "tests/documents.h"
 
@@ -104,6 +105,40 @@ void GrowsLikeAWalk(Choices& choose) {
     tree.FindOrAddChild(tree.FindOrAddChild(grown, ids), ids);
   }
   RequireEqual(Dump(walked), Dump(grown), "a growing tree");
+}
+
+// Some ids are negative, some equal in all low bits.
+std::uint32_t PathID(unsigned int number) { return number % 4 == 3 ? number << 24U : number - 2; }
+
+// Children of which many share ids, and of which a few have children again.
+void AddRow(Choices& choose, CQDFNode& parent, int levels) {
+  const unsigned int count = choose.OneOf({1U, 3U, 63U, 64U, 65U, 100U});
+  const unsigned int step = choose.Below(8) + 1;
+  const unsigned int different = choose.Below(80) + 1;
+  const unsigned int few = choose.Below(3) + 1;
+  for (unsigned int i = 0; i < count; ++i) {
+    ADWordArray ids;
+    for (const unsigned int number : {i * step, i + step}) ids.Add(PathID(number % different));
+    CQDFNode* child = AddChildNode(parent, ids);
+    if (levels > 1 && i < few * step && i % step == 0) AddRow(choose, *child, levels - 1);
+  }
+}
+
+void FindsPathsLikeAWalk(Choices& choose) {
+  CQDFNode root;
+  AddRow(choose, root, 3);
+  const ChildIndexes indexes(root);
+  const auto compare = [&](std::initializer_list<int> ids) {
+    Require(FindPath(root, ids, &indexes) == FindPath(root, ids), "the end of a path");
+  };
+  const unsigned int shift = choose.Below(16);
+  for (unsigned int i = 0; i < 82; ++i) {
+    const auto first = static_cast<int>(PathID(i));
+    const auto second = static_cast<int>(PathID((i + shift) % 16));
+    compare({first});
+    compare({first, second});
+    compare({first, second, static_cast<int>(PathID(i % 16))});
+  }
 }
 
 struct Dither {
@@ -286,6 +321,7 @@ void ReadsDithersLikeALoop(const std::vector<DitherList>& lists) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Choices choose(TextOf(data, size));
+  FindsPathsLikeAWalk(choose);
   SortsLikeTheExchangeSort(choose);
   MergesLikeALoop(choose);
   GrowsLikeAWalk(choose);
