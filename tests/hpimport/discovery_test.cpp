@@ -176,6 +176,18 @@ TEST(Discovery, FindsResourcesAtEndlessPaths) {
   EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
+TEST(Discovery, FindsTheResourceAmongManyFiles) {
+  const TempFolder folder;
+  const fs::path resource = WriteResource(folder, "t", {});
+  const Descriptor best = OpenFolder(resource.parent_path().c_str());
+  for (int i = 0; i < 100'000; ++i) {
+    const std::string name = "Glossy_best.xml" + std::to_string(i);
+    ASSERT_EQ(mknodat(best.Number(), name.c_str(), S_IFREG | 0600, 0), 0);
+  }
+  EXPECT_EQ(Found(folder.Path()),
+            "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/Glossy_best.xml");
+}
+
 TEST(Discovery, AppendsAndNeverReadsThroughALink) {
   const TempFolder outside;
   const std::string foreign = WriteResource(outside, "o", {});
