@@ -92,7 +92,8 @@ void NarrowAgainstPPD(benchmark::State& state, PPDContent content) {
   }
   const std::string combination = Combination(job);
   const ScratchFile file;
-  std::ofstream(file.Path(), std::ios::binary) << MakePPD(*sample, content);
+  const std::string text = MakePPD(*sample, content);
+  std::ofstream(file.Path(), std::ios::binary) << text;
   std::vector<double> ours;
   std::vector<double> theirs;
   bool found = true;
@@ -108,6 +109,7 @@ void NarrowAgainstPPD(benchmark::State& state, PPDContent content) {
     }));
   }
   if (!found) state.SkipWithError("a look-up found nothing");
+  state.SetLabel(std::to_string(text.size()) + " bytes of PPD");
   Compare(state, Median(ours), Median(theirs), 1);
 }
 
