@@ -37,10 +37,12 @@ struct Model {
   std::string Saved() const {
     std::string bytes;
     for (const std::string& each : profiles) bytes += "key_Iccprofile=" + each + "\n";
-    for (const auto& [media, text] : names)
-      bytes += "key_DisplayName_ForMedia=" + media + "/" + text + "\n";
-    for (const auto& [media, text] : mediaProfiles)
-      bytes += "key_Iccprofile_ForMedia=" + media + "/" + text + "\n";
+    const auto append = [&](const char* key, const Texts& texts) {
+      for (const auto& [media, text] : texts)
+        bytes.append(key).append("=").append(media).append("/").append(text).append("\n");
+    };
+    append("key_DisplayName_ForMedia", names);
+    append("key_Iccprofile_ForMedia", mediaProfiles);
     return bytes;
   }
 
