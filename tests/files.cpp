@@ -8,8 +8,8 @@
 
 namespace fs = std::filesystem;
 
-TempFolder::TempFolder() {
-  std::string name = (fs::temp_directory_path() / "apmqdf-test-XXXXXX").string();
+TempFolder::TempFolder(const fs::path& parent) {
+  std::string name = (parent / "apmqdf-test-XXXXXX").string();
   if (mkdtemp(name.data()) == nullptr) ADD_FAILURE() << "no temporary folder";
   path_ = name;
 }

@@ -9,7 +9,7 @@
 // An empty folder of its own, removed with all that is in it.
 class TempFolder {
  public:
-  TempFolder();
+  explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
   ~TempFolder();
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
