@@ -1,10 +1,10 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "tests/children.h"
 #include "tests/hpimport/resources.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
@@ -109,14 +109,11 @@ TEST_F(QdfUpdate, TellsTheSameWithoutWriting) {
   const Outcome real = Run("update small.qdf res");
   EXPECT_EQ(File("OutputDrivers/small.qdf.bak"), kSmallDocument);
   EXPECT_EQ(From("Lists (8)", dry), From("Lists (8)", real));
-  EXPECT_NE(dry.out.find("State:              would be written\n"), std::string::npos) << dry;
-  EXPECT_NE(real.out.find("State:              written\n"
-                          "Former file:        OutputDrivers/small.qdf.bak\n"),
-            std::string::npos)
-      << real;
+  EXPECT_THAT(dry.out, testing::HasSubstr("State:              would be written\n"));
+  EXPECT_THAT(real.out, testing::HasSubstr("State:              written\n"
+                                           "Former file:        OutputDrivers/small.qdf.bak\n"));
   const std::string written = File(kPath);
-  const nlohmann::json again = Json("update small.qdf res");
-  EXPECT_EQ(again["state"], "up to date");
+  EXPECT_EQ(Json("update small.qdf res")["state"], "up to date");
   EXPECT_EQ(File(kPath), written);
 }
 
@@ -197,26 +194,27 @@ TEST_F(QdfUpdate, SaysWhyNothingCanBeDerived) {
   WriteResource(folder_, "nameless", {.displayNames = {}});
   WriteResource(folder_, "unknown", {.quality = "great"});
   WriteResource(folder_, "inkless", {.format = "RGB"});
-  const std::pair<const char*, const char*> refusals[] = {
-      {"bad.qdf empty",
-       "no previous document: OutputDrivers/bad.qdf:1:1: this element is not closed"},
-      {"small.qdf none", "none: no such folder"},
-      {"small.qdf empty",
-       "empty: nothing can be derived: no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, "
-       "stands in the folder"},
-      {"small.qdf nameless",
-       "nameless: nothing can be derived: no resource has a display name, or no id is left, so "
-       "there would be no media"},
-      {"small.qdf unknown",
-       "unknown: nothing can be derived: no quality folder's name begins with premium, superbest, "
-       "best, normal, fast or draft, so there would be no print mode"},
-      {"small.qdf inkless",
-       "inkless: nothing can be derived: no resource has a known ink layout, so there would be no "
-       "colour mode"},
-  };
-  for (const auto& [words, line] : refusals) {
-    EXPECT_EQ(Run(std::string("update ") + words), Refused(line));
-  }
+  ExpectRefusals(
+      "update",
+      {
+          {"bad.qdf empty",
+           "no previous document: OutputDrivers/bad.qdf:1:1: this element is not closed"},
+          {"small.qdf none", "none: no such folder"},
+          {"small.qdf empty",
+           "empty: nothing can be derived: no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, "
+           "stands in the folder"},
+          {"small.qdf nameless",
+           "nameless: nothing can be derived: no resource has a display name, or no id is left, so "
+           "there would be no media"},
+          {"small.qdf unknown",
+           "unknown: nothing can be derived: no quality folder's name begins with premium, "
+           "superbest, "
+           "best, normal, fast or draft, so there would be no print mode"},
+          {"small.qdf inkless",
+           "inkless: nothing can be derived: no resource has a known ink layout, so there would be "
+           "no "
+           "colour mode"},
+      });
   EXPECT_EQ(File(kPath), kSmallDocument);
 }
 
