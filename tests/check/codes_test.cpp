@@ -46,10 +46,6 @@ TEST(Codes, PageAndProgramTellTheSame) {
   }
 }
 
-TEST(Codes, DocumentOfThePageHasNoFindings) {
-  EXPECT_THAT(CodesIn(ReadCodeTables().document, {false, true}), testing::IsEmpty());
-}
-
 // What may come along with the finding of an example.
 constexpr const char* kConsequences[] = {"element-unknown", "no-colorants", "no-ids",
                                          "entry-unused",    "dead-end",     "option-hidden",

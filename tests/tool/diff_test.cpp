@@ -113,6 +113,8 @@ Settings of media sources (1)
   Setting             Before  After  For   How many
   Default media size  A4      -      Tray         1
 )"}));
+  EXPECT_EQ(nlohmann::json::parse(With(text, {"--json"}).out)["deadEndsNew"][0]["media"],
+            nlohmann::json({{"except", {"Glossy (gl2)"}}}));
   // Without margins it is one.
   const Edit margins = {"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60\" MarginIDList=\"70\"/>"};
   EXPECT_THAT(With(Edited({margins})).out, HasSubstr(R"( combinations lost (1)

@@ -87,20 +87,6 @@ Settings of combinations (4)
 )");
 }
 
-TEST_F(QdfUpdate, FoldsWhatHoldsForAllButAFew) {
-  AddAll();
-  ASSERT_EQ(Run("update small.qdf res").code, 0);
-  for (const std::string media : {"res/pl", "res/Matte", "res/Silk"}) {
-    fs::remove_all(folder_.Path(media + "/draft"));
-    fs::remove_all(folder_.Path(media + "/normal"));
-  }
-  const nlohmann::json report = Json("update small.qdf res --dry-run");
-  EXPECT_EQ(report["combinationsLost"],
-            nlohmann::json::parse(R"([{"ink": {"every": true}, "media": {"except": ["Film"]},
-                "printMode": {"except": ["best"]}, "resolution": {"every": true},
-                "colorMode": {"every": true}, "count": 12}])"));
-}
-
 TEST_F(QdfUpdate, TellsTheSameWithoutWriting) {
   AddAll();
   const Outcome dry = Run("update small.qdf res --dry-run");
