@@ -60,8 +60,7 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
     if (row.code == "reach-unfinished") {
       text = OverlappingText();
     } else if (row.code == "not-utf8") {
-      text = tables.document;
-      text.replace(text.find("Matte"), 5, "Matt\xE9");
+      text = Replaced(tables.document, "Matte", "Matt\xE9");
     } else if (row.code != "unreadable") {
       ASSERT_FALSE(row.found.empty());
       text = FoundText(tables, row);
@@ -78,10 +77,8 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
 }
 
 TEST(Codes, OfAWriteAreAboutWhatTheReaderHolds) {
-  std::string text = ReadCodeTables().document;
-  text.replace(text.find("595,842"), 7, "nan,inf");
-  text.replace(text.find("\"600\""), 5, "\"0\"");
-  EXPECT_THAT(CodesIn(text, {true, false}),
+  const std::string text = Replaced(ReadCodeTables().document, "595,842", "nan,inf");
+  EXPECT_THAT(CodesIn(Replaced(text, "\"600\"", "\"0\""), {true, false}),
               testing::Not(testing::Contains(testing::AnyOf("write-decimals", "write-rip"))));
 }
 
@@ -94,8 +91,7 @@ TEST(Codes, MissNoRipResolutionThatTheSameDitherHasElsewhere) {
 TEST(Codes, BytesThatAreNoUTF8) {
   const CodeTables tables = ReadCodeTables();
   const auto codesWith = [&](const std::string& name) {
-    std::string text = tables.document;
-    return CodesIn(text.replace(text.find("Matte"), 5, name), {});
+    return CodesIn(Replaced(tables.document, "Matte", name), {});
   };
   for (const std::string& bytes :
        Split("\xC2\x80|\xDF\xBF|\xE0\xA0\x80|\xED\x9F\xBF|\xEF\xBF\xBD|\xF0\x90\x80\x80|"

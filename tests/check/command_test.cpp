@@ -3,9 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/check/codetables.h"
+#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {
@@ -74,12 +73,8 @@ constexpr MessageRow kMessages[] = {
      "use a shorter name"},
 };
 
-std::string WithQuotes(std::string text) {
-  std::replace(text.begin(), text.end(), '`', '"');
-  for (std::size_t at = 0; (at = text.find('~')) != std::string::npos;) {
-    text.replace(at, 1, std::string(60, 'x'));
-  }
-  return text;
+std::string WithQuotes(const std::string& text) {
+  return Replaced(Replaced(text, "`", "\""), "~", std::string(60, 'x'));
 }
 
 std::string PageWith(const std::string& mended, const std::string& found) {

@@ -8,20 +8,14 @@ namespace {
 
 using testing::HasSubstr;
 
-struct Edit {
-  const char* from;
-  const char* to;
-};
+using Edit = std::pair<std::string, std::string>;
 
-// Every place of each text is replaced.
+// Every place of each first text is replaced by the second.
 std::string Edited(const std::vector<Edit>& edits) {
   std::string text = kSmallDocument;
-  for (const Edit& edit : edits) {
-    std::size_t at = text.find(edit.from);
-    EXPECT_NE(at, std::string::npos) << edit.from;
-    for (; at != std::string::npos; at = text.find(edit.from, at + std::string(edit.to).size())) {
-      text.replace(at, std::string(edit.from).size(), edit.to);
-    }
+  for (const auto& [from, to] : edits) {
+    EXPECT_THAT(text, HasSubstr(from));
+    text = Replaced(text, from, to);
   }
   return text;
 }
@@ -53,7 +47,7 @@ TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
   // One medium was behind the node that is asked, the other one is now; nothing follows that.
   const std::string deadEnd = "<Ink ID=\"2\"><Media ID=\"10\"/></Ink>";
   const std::string later = deadEnd + "</Control_Definition>";
-  EXPECT_EQ(With(Edited({{deadEnd.c_str(), ""}, {"</Control_Definition>", later.c_str()}})),
+  EXPECT_EQ(With(Edited({{deadEnd, ""}, {"</Control_Definition>", later}})),
             (Outcome{1, Head("different") + R"(
 Dead ends gone (1)
   Ink          Media  How many
@@ -203,9 +197,8 @@ Settings of combinations (1)
 }
 
 TEST_F(Diff, ComparesColorantsByTheirPlaces) {
-  const char* gold = "<X IsSpotColor=\"1\" IsPrint=\"0\"><DisplayName>Gold</DisplayName></X>";
-  const std::string first = std::string(gold) + "<X Shape=";
-  EXPECT_THAT(With(Edited({{gold, ""}, {"<X Shape=", first.c_str()}})).out,
+  const std::string gold = "<X IsSpotColor=\"1\" IsPrint=\"0\"><DisplayName>Gold</DisplayName></X>";
+  EXPECT_THAT(With(Edited({{gold, ""}, {"<X Shape=", gold + "<X Shape="}})).out,
               HasSubstr("Colorants: Cyan, Gold becomes Gold, Cyan"));
   EXPECT_THAT(With(Edited({{"<X IsSpot", "<X Angle=\"45\" IsSpot"}})).out,
               HasSubstr("Gold, Angle as a setting: 0 becomes 45"));
@@ -230,7 +223,7 @@ TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
   };
   for (const auto& row : rows) {
     const Outcome outcome = With(Edited({row.edit}));
-    EXPECT_EQ(outcome.code, *row.told == '\0' ? 0 : 1) << row.edit.to;
+    EXPECT_EQ(outcome.code, *row.told == '\0' ? 0 : 1) << row.edit.second;
     EXPECT_THAT(outcome.out, HasSubstr(row.told));
   }
 }
@@ -238,9 +231,7 @@ TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
 // The lists begin with the same items.
 TEST_F(Diff, TellsOfLongListsWhatDiffers) {
   const std::string last = "<ICCProfile>b.icc</ICCProfile>";
-  const auto with = [&](const std::string& more) {
-    return Edited({{last.c_str(), (last + more).c_str()}});
-  };
+  const auto with = [&](const std::string& more) { return Edited({{last, last + more}}); };
   folder_.Write("a.qdf", with("<ICCProfile>c</ICCProfile><ICCProfile>d</ICCProfile>"));
   const struct {
     const char* profiles;

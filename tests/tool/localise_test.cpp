@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "tests/documents.h"
 #include "tests/tool/document.h"
 
 namespace {
@@ -103,9 +104,8 @@ TEST_F(QdfLocalise, TellsOfPiecesOfLinesAndOfWhatANulHides) {
 }
 
 TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
-  const auto document = [](const std::string& table) {
-    std::string text = kSmallDocument;
-    return text.replace(text.find("small.txt"), 9, table);
+  const auto document = [](const char* table) {
+    return Replaced(kSmallDocument, "small.txt", table);
   };
   folder_.Write("OutputDrivers/none.qdf", document(""));
   folder_.Write("OutputDrivers/up.qdf", document("../OutputDrivers/small.txt"));

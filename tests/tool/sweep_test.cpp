@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "tests/files.h"
+#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {
@@ -28,13 +28,6 @@ constexpr const char* kTable =
     "  Good   sound\n"
     "  Old    unsound  tree/Old/best/Old_best.xml  its release, \"1.5\", isn't 2 or more and below "
     "3\n";
-
-std::string WithReturns(std::string text) {
-  for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
-    text.insert(at, 1, '\r');
-  }
-  return text;
-}
 
 TEST_F(QdfSweep, TellsEveryReason) {
   folder_.Write("tree/Bad/best/Bad_best.xml", "<r release='2.5'>\n  <x></r>");
@@ -85,7 +78,7 @@ TEST_F(QdfSweep, DeletesNothingWithoutAYes) {
 TEST_F(QdfSweep, DeletesAfterAYesOnTheTerminal) {
   const std::string seen = OnTerminal(
       {"sweep", "tree"}, {.folder = folder_.Path(), .environment = {"NO_COLOR=1"}}, "Yes\n");
-  EXPECT_EQ(seen, WithReturns(kTable) +
+  EXPECT_EQ(seen, Replaced(kTable, "\n", "\r\n") +
                       "\r\nDelete for good what is unsound, 1 of 2 media folders? [y/N] "
                       "Deleted media folders:  1\r\ncode 0");
   EXPECT_FALSE(Has("Old"));
