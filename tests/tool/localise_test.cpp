@@ -114,25 +114,22 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
   folder_.Write("OutputDrivers/folder.qdf", document("folder"));
   folder_.Write("OutputDrivers/folder/file", "");
   ASSERT_EQ(symlink("OutputDrivers/small.txt", folder_.Path("link").c_str()), 0);
-  ExpectRefusals(
-      "localise",
-      {
-          {"none.qdf", "OutputDrivers/none.qdf: it names no translation table"},
-          {"up.qdf",
-           "OutputDrivers/up.qdf: the name of its translation table, "
-           "\"../OutputDrivers/small.txt\", "
-           "is no bare file name"},
-          {"dots.qdf",
-           "OutputDrivers/dots.qdf: the name of its translation table, \"..\", is no bare file "
-           "name"},
-          {"lost.qdf --untranslated",
-           "OutputDrivers/lost.txt: no such file under the working folder, see -C"},
-          {"folder.qdf", "OutputDrivers/folder: it is a folder"},
-          {"small.qdf -o no/new.qdf", "no/new.qdf: it can't be saved: its folder isn't there"},
-          {"small.qdf -o OutputDrivers/small.txt",
-           "OutputDrivers/small.txt: this is the document's translation table"},
-          {"small.qdf -o link", "link: this is the document's translation table"},
-      });
+  const Refusals refusals = {
+      {"none.qdf", "OutputDrivers/none.qdf: it names no translation table"},
+      {"up.qdf",
+       "OutputDrivers/up.qdf: the name of its translation table, \"../OutputDrivers/small.txt\", "
+       "is no bare file name"},
+      {"dots.qdf",
+       "OutputDrivers/dots.qdf: the name of its translation table, \"..\", is no bare file name"},
+      {"lost.qdf --untranslated",
+       "OutputDrivers/lost.txt: no such file under the working folder, see -C"},
+      {"folder.qdf", "OutputDrivers/folder: it is a folder"},
+      {"small.qdf -o no/new.qdf", "no/new.qdf: it can't be saved: its folder isn't there"},
+      {"small.qdf -o OutputDrivers/small.txt",
+       "OutputDrivers/small.txt: this is the document's translation table"},
+      {"small.qdf -o link", "link: this is the document's translation table"},
+  };
+  ExpectRefusals("localise", refusals);
   EXPECT_EQ(Run("localise small.qdf -o x --untranslated"),
             Refused("--output and --untranslated don't go together", 2));
   EXPECT_EQ(File("OutputDrivers/small.txt"), kTable);

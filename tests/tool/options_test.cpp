@@ -80,17 +80,15 @@ TEST_F(QdfOptions, StopsAtDamage) {
   folder_.Write("text.opt", "This is no archive");
   folder_.Write("zeros.opt", std::string(40, '\0'));
   folder_.Write("rest.opt", both + std::string(40, '\0'));
-  ExpectRefusals(
-      "options",
-      {
-          {"cut.opt", "cut.opt: damaged, or no archive of colour options; whole records: 1"},
-          {"a.opt text.opt",
-           "text.opt: damaged, or no archive of colour options; whole records: 0"},
-          {"zeros.opt", "zeros.opt: damaged, or no archive of colour options; whole records: 0"},
-          {"rest.opt", "rest.opt: damaged, or no archive of colour options; whole records: 2"},
-          {"none.opt", "none.opt: no such file"},
-          {"./", "./: it is a folder"},
-      });
+  const Refusals refusals = {
+      {"cut.opt", "cut.opt: damaged, or no archive of colour options; whole records: 1"},
+      {"a.opt text.opt", "text.opt: damaged, or no archive of colour options; whole records: 0"},
+      {"zeros.opt", "zeros.opt: damaged, or no archive of colour options; whole records: 0"},
+      {"rest.opt", "rest.opt: damaged, or no archive of colour options; whole records: 2"},
+      {"none.opt", "none.opt: no such file"},
+      {"./", "./: it is a folder"},
+  };
+  ExpectRefusals("options", refusals);
 }
 
 }  // namespace

@@ -180,27 +180,24 @@ TEST_F(QdfUpdate, SaysWhyNothingCanBeDerived) {
   WriteResource(folder_, "nameless", {.displayNames = {}});
   WriteResource(folder_, "unknown", {.quality = "great"});
   WriteResource(folder_, "inkless", {.format = "RGB"});
-  ExpectRefusals(
-      "update",
-      {
-          {"bad.qdf empty",
-           "no previous document: OutputDrivers/bad.qdf:1:1: this element is not closed"},
-          {"small.qdf none", "none: no such folder"},
-          {"small.qdf empty",
-           "empty: nothing can be derived: no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, "
-           "stands in the folder"},
-          {"small.qdf nameless",
-           "nameless: nothing can be derived: no resource has a display name, or no id is left, so "
-           "there would be no media"},
-          {"small.qdf unknown",
-           "unknown: nothing can be derived: no quality folder's name begins with premium, "
-           "superbest, "
-           "best, normal, fast or draft, so there would be no print mode"},
-          {"small.qdf inkless",
-           "inkless: nothing can be derived: no resource has a known ink layout, so there would be "
-           "no "
-           "colour mode"},
-      });
+  const Refusals refusals = {
+      {"bad.qdf empty",
+       "no previous document: OutputDrivers/bad.qdf:1:1: this element is not closed"},
+      {"small.qdf none", "none: no such folder"},
+      {"small.qdf empty",
+       "empty: nothing can be derived: no resource file, as MEDIA/QUALITY/MEDIA_QUALITY.xml, "
+       "stands in the folder"},
+      {"small.qdf nameless",
+       "nameless: nothing can be derived: no resource has a display name, or no id is left, so "
+       "there would be no media"},
+      {"small.qdf unknown",
+       "unknown: nothing can be derived: no quality folder's name begins with premium, superbest, "
+       "best, normal, fast or draft, so there would be no print mode"},
+      {"small.qdf inkless",
+       "inkless: nothing can be derived: no resource has a known ink layout, so there would be no "
+       "colour mode"},
+  };
+  ExpectRefusals("update", refusals);
   EXPECT_EQ(File(kPath), kSmallDocument);
 }
 
