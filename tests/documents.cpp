@@ -115,8 +115,11 @@ std::string ColorModes(std::string_view text) {
                  "</ColorantList>");
 }
 
-std::string Control(std::string_view tree, std::string_view leaves) {
-  return ControlElement(TakeNode(tree), 0, leaves);
+std::string Control(std::string_view tree, std::string_view leaves, std::string_view more) {
+  const std::string control = ControlElement(TakeNode(tree), 0, leaves);
+  return more.empty()
+             ? control
+             : Replaced(control, "<ColorMode", Join({"<ColorMode", std::string(more)}, " "));
 }
 
 std::string SourceControl(std::string_view tree) {
@@ -172,6 +175,13 @@ std::string Join(const std::vector<std::string>& texts, std::string_view between
     first = false;
   }
   return joined;
+}
+
+std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != Text::npos; at += to.size()) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
 }
 
 std::vector<std::string> Split(std::string_view text) {

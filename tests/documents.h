@@ -24,8 +24,9 @@ std::string ColorModes(std::string_view text);
 
 // A tree in the form that Dump has, such as ">2[1>11[10,11];2>12[12>20]]", as Control_Definition or
 // as MediaSource_Control. The ids of a node may be any id list text without ">", "[", "]" and ";".
-// Each colour mode gets `leaves` as its content.
-std::string Control(std::string_view tree, std::string_view leaves = {});
+// Each colour mode gets `leaves` as its content and the attributes of `more`.
+std::string Control(std::string_view tree, std::string_view leaves = {},
+                    std::string_view more = {});
 std::string SourceControl(std::string_view tree);
 
 // A smallest complete document; each member may be replaced. The lists hold what stands inside
@@ -53,6 +54,8 @@ std::unique_ptr<APMQDF> LoadText(std::string_view text);
 std::unique_ptr<APMQDF> Load(const DocumentText& document);
 
 std::string Join(const std::vector<std::string>& texts, std::string_view between);
+// The text with `to` wherever it holds `from`.
+std::string Replaced(std::string text, std::string_view from, std::string_view to);
 // The pieces between "|"; one piece, an empty one, of an empty text.
 std::vector<std::string> Split(std::string_view text);
 

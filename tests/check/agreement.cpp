@@ -11,11 +11,14 @@
 
 namespace {
 
-bool FindsWriteLoss(const check::Examination& examination) {
-  const auto& findings = examination.findings;
-  return std::any_of(findings.begin(), findings.end(), [](const check::Finding& finding) {
-    return std::string_view(finding.rule->name).starts_with("write-");
-  });
+template <class Wanted>
+bool FindsRule(const check::Examination& examination, Wanted wanted) {
+  return std::any_of(examination.findings.begin(), examination.findings.end(),
+                     [&](const check::Finding& finding) { return wanted(*finding.rule); });
+}
+
+bool IsWriteLoss(const check::Rule& rule) {
+  return std::string_view(rule.name).starts_with("write-");
 }
 
 // The first that is missing, empty when none is.
@@ -98,10 +101,7 @@ bool HasOrigins(const std::string& path, APMQDF& document) {
 }  // namespace
 
 bool Finds(const check::Examination& examination, check::Severity severity) {
-  const auto& findings = examination.findings;
-  return std::any_of(findings.begin(), findings.end(), [severity](const check::Finding& finding) {
-    return finding.rule->severity == severity;
-  });
+  return FindsRule(examination, [&](const auto& rule) { return rule.severity == severity; });
 }
 
 std::string Disagreement(const std::string& path, const std::string& scratch) {
@@ -115,5 +115,5 @@ std::string Disagreement(const std::string& path, const std::string& scratch) {
   if (refused || Finds(examination, check::Severity::kWarning)) return "";
   const std::string lost = Missing(FactsOfFile(path), FactsOf(*document));
   if (!lost.empty()) return "the object lacks without a warning: " + lost;
-  return FindsWriteLoss(examination) ? "" : WriteDisagreement(*document, scratch);
+  return FindsRule(examination, IsWriteLoss) ? "" : WriteDisagreement(*document, scratch);
 }

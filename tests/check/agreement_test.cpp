@@ -7,10 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstring>
 
 #include "tests/check/codetables.h"
 #include "tests/check/mutations.h"
+#include "tests/documents.h"
 #include "tests/files.h"
 #include "tool/check/examine.h"
 
@@ -63,9 +63,7 @@ TEST(Agreement, OfMutatedDocumentsThatAWriteKeeps) {
   std::string document = ReadCodeTables().document;
   for (const char* lost : {" DefaultInk=\"1\"", " DefaultDither=\"Fine\"", " DefaultMarginID=\"1\"",
                            "<Dither Name=\"Fine\" RipResolution=\"600\"/>"}) {
-    for (std::size_t at = 0; (at = document.find(lost)) != std::string::npos;) {
-      document.erase(at, std::strlen(lost));
-    }
+    document = Replaced(document, lost, "");
   }
   const TempFolder folder;
   EXPECT_THAT(check::Examine(folder.Write("kept.qdf", document), {true, false}).findings,

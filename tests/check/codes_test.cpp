@@ -46,10 +46,6 @@ TEST(Codes, PageAndProgramTellTheSame) {
   }
 }
 
-TEST(Codes, DocumentOfThePageHasNoFindings) {
-  EXPECT_THAT(CodesIn(ReadCodeTables().document, {false, true}), testing::IsEmpty());
-}
-
 // What may come along with the finding of an example.
 constexpr const char* kConsequences[] = {"element-unknown", "no-colorants", "no-ids",
                                          "entry-unused",    "dead-end",     "option-hidden",
@@ -64,8 +60,7 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
     if (row.code == "reach-unfinished") {
       text = OverlappingText();
     } else if (row.code == "not-utf8") {
-      text = tables.document;
-      text.replace(text.find("Matte"), 5, "Matt\xE9");
+      text = Replaced(tables.document, "Matte", "Matt\xE9");
     } else if (row.code != "unreadable") {
       ASSERT_FALSE(row.found.empty());
       text = FoundText(tables, row);
@@ -82,10 +77,8 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
 }
 
 TEST(Codes, OfAWriteAreAboutWhatTheReaderHolds) {
-  std::string text = ReadCodeTables().document;
-  text.replace(text.find("595,842"), 7, "nan,inf");
-  text.replace(text.find("\"600\""), 5, "\"0\"");
-  EXPECT_THAT(CodesIn(text, {true, false}),
+  const std::string text = Replaced(ReadCodeTables().document, "595,842", "nan,inf");
+  EXPECT_THAT(CodesIn(Replaced(text, "\"600\"", "\"0\""), {true, false}),
               testing::Not(testing::Contains(testing::AnyOf("write-decimals", "write-rip"))));
 }
 
@@ -97,25 +90,18 @@ TEST(Codes, MissNoRipResolutionThatTheSameDitherHasElsewhere) {
 
 TEST(Codes, BytesThatAreNoUTF8) {
   const CodeTables tables = ReadCodeTables();
-  const struct {
-    const char* bytes;
-    bool isUTF8;
-  } rows[] = {
-      {"\xC2\x80", true},          {"\xDF\xBF", true},
-      {"\xE0\xA0\x80", true},      {"\xEF\xBF\xBD", true},
-      {"\xF0\x90\x80\x80", true},  {"\xF4\x8F\xBF\xBF", true},
-      {"\xED\x9F\xBF", true},      {"\x80", false},
-      {"\xC1\xBF", false},         {"\xE0\x9F\xBF", false},
-      {"\xED\xA0\x80", false},     {"\xF0\x8F\xBF\xBF", false},
-      {"\xF4\x90\x80\x80", false}, {"\xF8\x88\x80\x80", false},
-      {"\xE2\x82", false},
+  const auto codesWith = [&](const std::string& name) {
+    return CodesIn(Replaced(tables.document, "Matte", name), {});
   };
-  for (const auto& row : rows) {
-    std::string text = tables.document;
-    text.replace(text.find("Matte"), 5, row.bytes);
-    const auto expected =
-        row.isUTF8 ? std::vector<std::string>{} : std::vector<std::string>{"not-utf8"};
-    EXPECT_EQ(CodesIn(text, {}), expected) << row.bytes;
+  for (const std::string& bytes :
+       Split("\xC2\x80|\xDF\xBF|\xE0\xA0\x80|\xED\x9F\xBF|\xEF\xBF\xBD|\xF0\x90\x80\x80|"
+             "\xF4\x8F\xBF\xBF")) {
+    EXPECT_THAT(codesWith(bytes), testing::IsEmpty()) << bytes;
+  }
+  for (const std::string& bytes :
+       Split("\x80|\xC1\xBF|\xE0\x9F\xBF|\xED\xA0\x80|\xF0\x8F\xBF\xBF|\xF4\x90\x80\x80|"
+             "\xF8\x88\x80\x80|\xE2\x82")) {
+    EXPECT_THAT(codesWith(bytes), testing::ElementsAre("not-utf8")) << bytes;
   }
 }
 

@@ -3,15 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/check/codetables.h"
-#include "tests/files.h"
+#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {
 
-using Json = nlohmann::json;
+using CheckCommand = QdfTest;
+using nlohmann::json;
 
 // Places and words, one row for each kind of message that the examples of the page don't show. A
 // quotation mark is written as `, and much of a long name as ~.
@@ -74,45 +73,38 @@ constexpr MessageRow kMessages[] = {
      "use a shorter name"},
 };
 
-std::string WithQuotes(std::string text) {
-  std::replace(text.begin(), text.end(), '`', '"');
-  for (std::size_t at = 0; (at = text.find('~')) != std::string::npos;) {
-    text.replace(at, 1, std::string(60, 'x'));
-  }
-  return text;
+std::string WithQuotes(const std::string& text) {
+  return Replaced(Replaced(text, "`", "\""), "~", std::string(60, 'x'));
 }
 
 std::string PageWith(const std::string& mended, const std::string& found) {
   return FoundText(ReadCodeTables(), {"", "", "", {WithQuotes(found)}, {WithQuotes(mended)}});
 }
 
-TEST(CheckCommand, TellsWhereAndWhatInWords) {
-  const TempFolder folder;
+TEST_F(CheckCommand, TellsWhereAndWhatInWords) {
   for (const MessageRow& row : kMessages) {
-    folder.Write("d.qdf", PageWith(row.mended, row.found));
-    const Outcome outcome = RunTool({"check", "d.qdf"}, {folder.Path()});
+    folder_.Write("d.qdf", PageWith(row.mended, row.found));
+    const Outcome outcome = Run("check d.qdf");
     const std::string expected = std::string(row.message) + "\n  hint: " + row.hint + "\n";
     EXPECT_THAT(outcome.out, testing::HasSubstr("d.qdf:" + WithQuotes(expected)));
   }
 }
 
-TEST(CheckCommand, CutsNamesBetweenCharacters) {
-  const TempFolder folder;
+TEST_F(CheckCommand, CutsNamesBetweenCharacters) {
   const auto accents = [](int count) {
     std::string text;
     while (count-- > 0) text += "\xC3\xA9";
     return text;
   };
-  folder.Write("d.qdf", PageWith("<InternalName>Black<", "<InternalName>a" + accents(40) + "<"));
-  EXPECT_THAT(RunTool({"check", "d.qdf"}, {folder.Path()}).out,
+  folder_.Write("d.qdf", PageWith("<InternalName>Black<", "<InternalName>a" + accents(40) + "<"));
+  EXPECT_THAT(Run("check d.qdf").out,
               testing::HasSubstr("it ends in \"" + accents(9) + "\" [name-cut]"));
 }
 
-TEST(CheckCommand, ShowsOnATerminalWhatThePageShows) {
-  const TempFolder folder;
-  folder.Write("demo.qdf",
-               PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
-  std::istringstream lines(OnTerminal({"check", "demo.qdf"}, {folder.Path()}));
+TEST_F(CheckCommand, ShowsOnATerminalWhatThePageShows) {
+  folder_.Write("demo.qdf",
+                PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
+  std::istringstream lines(OnTerminal({"check", "demo.qdf"}, {folder_.Path()}));
   std::string shown;
   for (std::string line; std::getline(lines, line) && line.back() == '\r';) {
     shown += "    " + line.substr(0, line.size() - 1) + '\n';
@@ -121,12 +113,11 @@ TEST(CheckCommand, ShowsOnATerminalWhatThePageShows) {
               testing::HasSubstr("\n\n" + shown + '\n'));
 }
 
-TEST(CheckCommand, CutsLongLinesAndKeepsThePlace) {
-  const TempFolder folder;
+TEST_F(CheckCommand, CutsLongLinesAndKeepsThePlace) {
   const std::string blanks(70, ' ');
-  folder.Write("d.qdf", "<QDF_Info>\n\t<Definition>\n" + blanks + "<W\xC3\xA4rme a='\xE9'>" +
-                            std::string(90, 'x') + "</W\xC3\xA4rme>\n</Definition></QDF_Info>");
-  const std::string shown = OnTerminal({"check", "d.qdf"}, {folder.Path()});
+  folder_.Write("d.qdf", "<QDF_Info>\n\t<Definition>\n" + blanks + "<W\xC3\xA4rme a='\xE9'>" +
+                             std::string(90, 'x') + "</W\xC3\xA4rme>\n</Definition></QDF_Info>");
+  const std::string shown = OnTerminal({"check", "d.qdf"}, {folder_.Path()});
   EXPECT_THAT(shown, testing::HasSubstr(" 2 |  <Definition>\r\n   |   ^~~~~~~~~~\r\n"));
   EXPECT_THAT(shown, testing::HasSubstr("d.qdf:3:72: "));
   EXPECT_THAT(shown, testing::HasSubstr(" 3 | ..." + std::string(59, ' ') +
@@ -134,11 +125,10 @@ TEST(CheckCommand, CutsLongLinesAndKeepsThePlace) {
                                         "...\r\n   | " + std::string(63, ' ') + "^~~~~\r\n"));
 }
 
-TEST(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
-  const TempFolder folder;
-  folder.Write("bad.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
+TEST_F(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
+  folder_.Write("bad.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
   const std::string reason = "this end tag does not match its start tag";
-  EXPECT_EQ(RunTool({"check", "bad.qdf", "none.qdf"}, {folder.Path()}),
+  EXPECT_EQ(Run("check bad.qdf none.qdf"),
             (Outcome{1, "bad.qdf:2:15: error: " + reason +
                             " [not-well-formed]\n"
                             "  hint: correct the XML here; nothing else is examined until then\n"
@@ -146,39 +136,34 @@ TEST(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
                             "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
                             "  hint: correct the path, or what it leads to\n"
                             "OutputDrivers/none.qdf: 1 error\n"}));
-  folder.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
-  EXPECT_EQ(RunTool({"check", "wide.qdf"}, {folder.Path()}).out,
+  folder_.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
+  EXPECT_EQ(Run("check wide.qdf").out,
             "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
             "  hint: save it as UTF-8\nwide.qdf: 1 error\n");
-  EXPECT_EQ(RunTool({"show", "bad.qdf"}, {folder.Path()}),
-            (Outcome{1, "", "qdf: bad.qdf:2:15: " + reason + "\n"}));
+  EXPECT_EQ(Run("show bad.qdf"), (Outcome{1, "", "qdf: bad.qdf:2:15: " + reason + "\n"}));
 }
 
-struct UsageRow {
-  const char* words;
-  int code;
-  const char *out, *err;
-};
-
-TEST(CheckCommand, AnswersWithExitCodes) {
-  const TempFolder folder;
-  folder.Write("OutputDrivers/good.qdf", ReadCodeTables().document);
-  folder.Write("OutputDrivers/Bad.QDF", "<QDF_Info/>");
-  folder.Write("OutputDrivers/good.txt", "");
-  folder.Write("OutputDrivers/sub/other.qdf", "");
-  folder.Write("warns/d.qdf", PageWith("`1,2`", "`1,2` a=``"));
-  folder.Write("empty/readme", "");
+TEST_F(CheckCommand, AnswersWithExitCodes) {
+  folder_.Write("OutputDrivers/good.qdf", ReadCodeTables().document);
+  folder_.Write("OutputDrivers/Bad.QDF", "<QDF_Info/>");
+  folder_.Write("OutputDrivers/good.txt", "");
+  folder_.Write("OutputDrivers/sub/other.qdf", "");
+  folder_.Write("warns/d.qdf", PageWith("`1,2`", "`1,2` a=``"));
+  folder_.Write("empty/readme", "");
   const std::string warning =
       "warns/d.qdf:52:29: warning: nobody reads the attribute a in PrintMode "
       "[attribute-unknown]\n  hint: take it out\nwarns/d.qdf: 1 warning\n";
   const std::string both =
       "OutputDrivers/Bad.QDF: no findings\nOutputDrivers/good.qdf: no findings\n";
   const std::string nothing =
-      "empty: error: no *.qdf is in this folder [unreadable]\n  hint: correct the path, or give "
-      "the "
-      "documents themselves\nempty: 1 error\n" +
+      "empty: error: no *.qdf is in this folder [unreadable]\n"
+      "  hint: correct the path, or give the documents themselves\nempty: 1 error\n" +
       both;
-  const UsageRow rows[] = {
+  const struct {
+    const char* words;
+    int code;
+    const char *out, *err;
+  } rows[] = {
       {"good.qdf", 0, "OutputDrivers/good.qdf: no findings\n", ""},
       {"warns", 0, warning.c_str(), ""},
       {"warns --werror", 1, warning.c_str(), ""},
@@ -193,57 +178,54 @@ TEST(CheckCommand, AnswersWithExitCodes) {
       {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers", 1,
        nothing.c_str(), ""},
   };
-  for (const UsageRow& row : rows) {
-    EXPECT_EQ(RunTool(SplitWords(std::string("check ") + row.words), {folder.Path()}),
-              (Outcome{row.code, row.out, row.err}))
+  for (const auto& row : rows) {
+    EXPECT_EQ(Run(std::string("check ") + row.words), (Outcome{row.code, row.out, row.err}))
         << row.words;
   }
 }
 
-TEST(CheckCommand, GivesAnObjectForEachFinding) {
-  const TempFolder folder;
-  folder.Write("d.qdf", PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
-  const Json report = RunJson({"check", "d.qdf"}, {folder.Path()});
+TEST_F(CheckCommand, GivesAnObjectForEachFinding) {
+  folder_.Write("d.qdf", PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
+  const json report = Json("check d.qdf");
   EXPECT_EQ(report["documents"],
-            Json::parse(R"([{"document": "d.qdf", "errors": 0, "warnings": 3, "notes": 0}])"));
+            json::parse(R"([{"document": "d.qdf", "errors": 0, "warnings": 3, "notes": 0}])"));
   ASSERT_EQ(report["findings"].size(), 3U);
-  EXPECT_EQ(report["findings"][0], Json::parse(R"({
+  EXPECT_EQ(report["findings"][0], json::parse(R"({
       "document": "d.qdf", "code": "id-twice", "severity": "warning",
       "line": 12, "column": 21, "length": 1, "path": "/QDF_Info/Definition/MediaList/MediaDef[2]/ID",
       "message": "this medium is dropped: \"Plain\" on line 11 has the id 1 already",
       "hint": "give it an ID of its own"})"));
 }
 
-TEST(CheckCommand, WritesSarif) {
-  const TempFolder folder;
+TEST_F(CheckCommand, WritesSarif) {
   // A character of two bytes and one of four stand before the finding: one and two code units.
-  const std::string path = folder.Write(
+  const std::string path = folder_.Write(
       "d \xC3\xA9.qdf", "<QDF_Info><!-- \xC3\xA9\xF0\x9F\x96\xA8 --><Definition/></QDF_Info>");
   const Outcome outcome = RunTool({"check", "--format", "sarif", path, "none.qdf"});
-  const Json log = Json::parse(outcome.out, nullptr, false);
+  const json log = json::parse(outcome.out, nullptr, false);
   EXPECT_EQ(outcome.code, 1);
   EXPECT_EQ(log["version"], "2.1.0");
-  const Json& run = log["runs"][0];
+  const json& run = log["runs"][0];
   EXPECT_EQ(run["columnKind"], "utf16CodeUnits");
   EXPECT_EQ(run["tool"]["driver"]["name"], "qdf");
-  const Json& rules = run["tool"]["driver"]["rules"];
+  const json& rules = run["tool"]["driver"]["rules"];
   ASSERT_EQ(run["results"].size(), 6U);
-  for (const Json& result : run["results"]) {
-    const Json& rule = rules[result["ruleIndex"].get<std::size_t>()];
+  for (const json& result : run["results"]) {
+    const json& rule = rules[result["ruleIndex"].get<std::size_t>()];
     EXPECT_EQ(result["ruleId"], rule["id"]);
     EXPECT_EQ(result["level"], rule["defaultConfiguration"]["level"]);
   }
-  Json place = run["results"][0]["locations"][0];
+  json place = run["results"][0]["locations"][0];
   EXPECT_EQ(place["physicalLocation"]["artifactLocation"]["uri"],
-            "file://" + folder.Path() + "/d%20%C3%A9.qdf");
+            "file://" + folder_.Path() + "/d%20%C3%A9.qdf");
   EXPECT_EQ(place["physicalLocation"]["region"],
-            Json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
+            json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
   EXPECT_EQ(place["logicalLocations"][0]["fullyQualifiedName"], "/QDF_Info/Definition");
   // A byte order mark at the beginning is no column.
-  const std::string marked = folder.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
-  const Json alone = Json::parse(RunTool({"check", "--format", "sarif", marked}).out);
+  const std::string marked = folder_.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
+  const json alone = json::parse(RunTool({"check", "--format", "sarif", marked}).out);
   EXPECT_EQ(alone["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["region"],
-            Json::parse(R"({"startLine": 1, "startColumn": 2, "endLine": 1, "endColumn": 10})"));
+            json::parse(R"({"startLine": 1, "startColumn": 2, "endLine": 1, "endColumn": 10})"));
   place = run["results"][5]["locations"][0];
   EXPECT_FALSE(place["physicalLocation"].contains("region"));
 }

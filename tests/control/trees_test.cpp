@@ -18,7 +18,6 @@ namespace {
 // The names of a document's leaves and its control tree without what stands above colour modes.
 struct ControlTree {
   explicit ControlTree(const DocumentText& text) : document(Load(text)) {
-    if (document == nullptr) return;
     const DocumentMembers members(*document);
     tree = Dump(members.ControlTreeRoot);
     profiles = Dump(members.ICCProfileList);
@@ -48,10 +47,7 @@ ControlTree OnePath(const std::string& colorModes) {
 std::string Under(const std::string& colorModes) { return "[1[1[1[1[" + colorModes + "]]]]]"; }
 
 TEST(ControlTree, KeepsWhatTheListsKnow) {
-  const struct {
-    const char* control;
-    const char* tree;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"", ""},
       {"<control_definition DefaultInk='1'/>", ""},
       {"<Control_Definition DefaultInk=' 9x'/><Control_Definition DefaultInk='1'/>", ">9"},
@@ -65,12 +61,10 @@ TEST(ControlTree, KeepsWhatTheListsKnow) {
        "DefaultResolution='99999999999'><Resolution ID='(1)' DefaultColorMode='1'><Media ID='10'/>"
        "<ColorMode ID='7'/></Resolution></PrintMode></Media></Ink></Control_Definition>",
        "[2,0>11[12,10,11>4[1>2147483647[1>1]]]]"}};
-  for (const auto& row : rows) {
-    const ControlTree read({.InkList = Entries("1;2;0"),
-                            .MediaList = Entries("10=b;11=c;12=a"),
-                            .Control = row.control});
-    ASSERT_NE(read.document, nullptr);
-    EXPECT_EQ(read.tree, row.tree) << row.control;
+  for (const auto& [control, tree] : rows) {
+    const ControlTree read(
+        {.InkList = Entries("1;2;0"), .MediaList = Entries("10=b;11=c;12=a"), .Control = control});
+    EXPECT_EQ(read.tree, tree) << control;
   }
 }
 
@@ -145,10 +139,7 @@ TEST(ControlTree, DitherListsAppend) {
 }
 
 TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
-  const struct {
-    const char* control;
-    const char* tree;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"", ""},
       {"<MediaSource_Control DefaultMediaSourceID='2x'><MediaSource "
        "ID='ALL'/></MediaSource_Control>",
@@ -162,17 +153,14 @@ TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
        "MarginIDList='9' DefaultMarginID='6' Default='1'/><MediaSize ID='4' MarginIDList='-'/>"
        "<X><MediaSize ID='3'/></X></MediaSource></MediaSource_Control>",
        "[1[3,5[7,6>6];4;4[6,7]]]"}};
-  for (const auto& row : rows) {
-    const std::string definition = "<MediaSourceList>" + Entries("1;2") +
-                                   "</MediaSourceList><MediaSizeList>" + Entries("5;4;3") +
-                                   "</MediaSizeList><MarginInfoList>" + Entries("6;7") +
-                                   "</MarginInfoList>";
-    const auto document = Load({.Definition = definition, .SourceControl = row.control});
-    ASSERT_NE(document, nullptr);
-    EXPECT_EQ(Dump(*document->GetMediaSourceTreeRoot()), row.tree) << row.control;
+  for (const auto& [control, tree] : rows) {
+    const auto document = Load({.MediaSourceList = Entries("1;2"),
+                                .MediaSizeList = Entries("5;4;3"),
+                                .MarginInfoList = Entries("6;7"),
+                                .SourceControl = control});
+    EXPECT_EQ(Dump(*document->GetMediaSourceTreeRoot()), tree) << control;
   }
-  const auto without = Load({.SourceControl = rows[1].control});
-  ASSERT_NE(without, nullptr);
+  const auto without = Load({.SourceControl = rows[1].first});
   EXPECT_EQ(Dump(*without->GetMediaSourceTreeRoot()), "")
       << "no sources, so the section isn't read";
 }

@@ -2,16 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "qdf/hpimport/update.h"
 #include "tests/hpimport/resources.h"
 
 namespace {
-
-template <class Record, class Wanted>
-std::vector<Record> Those(std::vector<Record> records, Wanted wanted) {
-  std::erase_if(records, [&](const Record& record) { return !wanted(record); });
-  return records;
-}
 
 // The profile, the dither and the printer's text at the end of a path.
 std::string LeavesOf(APMQDF& document, int ink, int media, int mode, int resolution, int color) {
@@ -25,40 +21,31 @@ std::string LeavesOf(APMQDF& document, int ink, int media, int mode, int resolut
   return Join({Dump(profiles), Dump(dithers), static_cast<const char*>(text)}, "/");
 }
 
-// What stands at the ends of the paths that a resource is reached by, step by step and each step
-// among the answers to the former ones.
-std::vector<std::string> Reached(APMQDF& document, const HPResourceInfo& resource) {
-  std::vector<std::string> leaves;
+// What leads to each end of a path below the first ink, step by step, and what stands there.
+std::multiset<std::string> Reached(APMQDF& document) {
+  using D = APMQDF;
+  std::multiset<std::string> reached;
   int at = 0;
-  const int ink = Asked<InkTypeInfo>(document, &APMQDF::GetInkTypeList, at).at(0).ID;
-  const auto ofName = [&](const auto& media) {
-    return resource.MediaName == Str(media.InternalName).c_str();
-  };
-  const auto ofQuality = [&](const auto& mode) {
-    return resource.PrintQuality == Str(mode.DisplayName).c_str();
-  };
-  const auto ofResolution = [&](const auto& resolution) {
-    return resource.DisplayResolution == Str(resolution.DisplayName).c_str() &&
-           resolution.XResolution == resource.InputHRes &&
-           resolution.YResolution == resource.InputVRes;
-  };
-  for (const auto& media :
-       Those(Asked<MediaTypeInfo>(document, &APMQDF::GetMediaTypeList, at, ink), ofName)) {
-    for (const auto& mode :
-         Those(Asked<PrintModeInfo>(document, &APMQDF::GetPrintModeList, at, ink, media.ID),
-               ofQuality)) {
+  const int ink = Asked<InkTypeInfo>(document, &D::GetInkTypeList, at).at(0).ID;
+  for (const auto& media : Asked<MediaTypeInfo>(document, &D::GetMediaTypeList, at, ink)) {
+    const int m = media.ID;
+    for (const auto& mode : Asked<PrintModeInfo>(document, &D::GetPrintModeList, at, ink, m)) {
+      const int p = mode.ID;
       for (const auto& resolution :
-           Those(Asked<ResolutionInfo>(document, &APMQDF::GetResolutionList, at, ink, media.ID,
-                                       mode.ID),
-                 ofResolution)) {
-        for (const auto& color : Asked<ColorModeInfo>(document, &APMQDF::GetColorModeList, at, ink,
-                                                      media.ID, mode.ID, resolution.ID)) {
-          leaves.push_back(LeavesOf(document, ink, media.ID, mode.ID, resolution.ID, color.ID));
+           Asked<ResolutionInfo>(document, &D::GetResolutionList, at, ink, m, p)) {
+        const int r = resolution.ID;
+        for (const auto& color :
+             Asked<ColorModeInfo>(document, &D::GetColorModeList, at, ink, m, p, r)) {
+          reached.insert(
+              Join({Str(media.InternalName), Str(mode.DisplayName), Str(resolution.DisplayName),
+                    std::to_string(resolution.XResolution), std::to_string(resolution.YResolution),
+                    LeavesOf(document, ink, m, p, r, color.ID)},
+                   "/"));
         }
       }
     }
   }
-  return leaves;
+  return reached;
 }
 
 class Printers : public testing::TestWithParam<const char*> {};
@@ -75,15 +62,17 @@ TEST_P(Printers, LeadToEachOfTheirResources) {
   Resources resources;
   PMGetHPRecursive(tree.GetFullPath(), resources);
   ASSERT_GT(resources.GetSize(), 0);
-  for (int i = 0; i < resources.GetSize(); ++i) {
-    const auto& resource = *static_cast<HPResourceInfo*>(resources.GetAt(i));
-    const std::string leaves = Join(
-        {static_cast<const char*>(resource.OutputICC), std::to_string(resource.Algorithm + 100),
-         static_cast<const char*>(resource.FileName)},
-        "/");
-    // In colour and in grey.
-    EXPECT_EQ(Reached(*updated, resource), (std::vector<std::string>{leaves, leaves}));
+  std::multiset<std::string> expected;
+  for (const auto& resource : Records<HPResourceInfo>(resources)) {
+    const std::string path =
+        Join({std::string(resource.MediaName), std::string(resource.PrintQuality),
+              std::string(resource.DisplayResolution), std::to_string(resource.InputHRes),
+              std::to_string(resource.InputVRes), std::string(resource.OutputICC),
+              std::to_string(resource.Algorithm + 100), std::string(resource.FileName)},
+             "/");
+    expected.insert({path, path});  // in colour and in grey
   }
+  EXPECT_EQ(Reached(*updated), expected);
   const std::string bytes = ReadFile(document);
   PMUpdateQDF(AFilePath(document.c_str()), tree);
   EXPECT_EQ(ReadFile(document), bytes);

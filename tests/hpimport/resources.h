@@ -55,23 +55,18 @@ inline void AddTo(Resources& resources, const Resource& resource) {
 // The file at its place under the folder; `file` plays no part.
 inline std::string WriteResource(const TempFolder& folder, const std::string& top,
                                  const Resource& resource) {
-  const auto attribute = [](const std::string& name, const std::string& value) {
-    return Join({" ", name, "='", value, "'"}, "");
-  };
-  std::string text = "<r" + attribute("release", resource.release) +
-                     attribute("displayResolution", resource.resolution) +
-                     attribute("printQuality", resource.printQuality) +
-                     attribute("isCustomizableMedia", std::to_string(resource.customizable)) + ">";
+  std::ostringstream xml;
+  xml << "<r release='" << resource.release << "' displayResolution='" << resource.resolution
+      << "' printQuality='" << resource.printQuality << "' isCustomizableMedia='"
+      << resource.customizable << "'>";
   for (const std::string& name : resource.displayNames) {
-    text += Join({"<displayName>", name, "</displayName>"}, "");
+    xml << "<displayName>" << name << "</displayName>";
   }
-  text += Join({"<fileNames><outputICC>", resource.profile, "</outputICC></fileNames>"}, "");
-  text += "<halftoningParms" + attribute("algorithm", std::to_string(resource.algorithm)) +
-          attribute("inputFormat", resource.format) +
-          attribute("inputHRes", std::to_string(resource.x)) +
-          attribute("inputVRes", std::to_string(resource.y)) +
-          attribute("KHiFipeLevels", std::to_string(1 << resource.black)) +
-          attribute("CHiFipeLevels", std::to_string(1 << resource.color)) + "/></r>";
+  xml << "<fileNames><outputICC>" << resource.profile << "</outputICC></fileNames>"
+      << "<halftoningParms algorithm='" << resource.algorithm << "' inputFormat='"
+      << resource.format << "' inputHRes='" << resource.x << "' inputVRes='" << resource.y
+      << "' KHiFipeLevels='" << (1 << resource.black) << "' CHiFipeLevels='"
+      << (1 << resource.color) << "'/></r>";
   const std::string name = Join({resource.media, "_", resource.quality, ".xml"}, "");
-  return folder.Write(Join({top, resource.media, resource.quality, name}, "/"), text);
+  return folder.Write(Join({top, resource.media, resource.quality, name}, "/"), xml.str());
 }

@@ -65,22 +65,4 @@ TEST(Host, NarrowsAJobAndKeepsTheAnswers) {
   EXPECT_EQ(text, "MediaType=Plain;Quality=Standard;InkType=Gray Scale");
 }
 
-TEST(Host, AsksForMediaSourcesSizesAndMargins) {
-  const auto document = LoadFile(std::string(kExamples) + "/OutputDrivers/dyesub6.qdf");
-  ASSERT_NE(document, nullptr);
-  int at = 0;
-  const auto sources = Asked<MediaSourceInfo>(*document, &APMQDF::GetMediaSourceList, at);
-  const auto sizes = Asked<MediaSizeInfo>(*document, &APMQDF::GetMediaSizeList, at, 1);
-  const auto margins = Asked<MarginInfo>(*document, &APMQDF::GetMarginInfoList, at, 1, 7);
-  EXPECT_EQ(Join({IDs(sources), IDs(sizes), IDs(margins)}, " "), "1 1,2,3,4,5,6,7,8,9,10 2");
-  EXPECT_EQ(sizes.at(4).SecondDimension, 513.12);
-  EXPECT_EQ(margins.at(0).ThirdMargin, 9.12);
-  double limits[4] = {};
-  EXPECT_EQ(document->GetMediaSizeLimits(limits[0], limits[1], limits[2], limits[3]), 1);
-  EXPECT_EQ(std::vector<double>(limits, limits + 4),
-            (std::vector<double>{261.12, 460.8, 460.8, 599.52}));
-  EXPECT_EQ(document->GetTranslationTable(), "dyesub6.txt");
-  EXPECT_EQ(document->GetCustomMediaFile(), "dyesub6_custom.txt");
-}
-
 }  // namespace

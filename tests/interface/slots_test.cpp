@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qdf/core/apmqdf.h"
+#include "qdf/localise/custommedia.h"
 
 namespace {
 
@@ -69,6 +70,14 @@ TEST(VirtualOperations, EachStandsInItsSlot) {
       Slot(&APMQDF::GetMediaSourceTreeRoot),
   };
   for (std::size_t i = 0; i < slots.size(); ++i) EXPECT_EQ(slots[i], i + 2) << "row " << i;
+  using Media = CCustomMediaInfoInter;
+  const std::vector<std::size_t> mediaSlots = {
+      Slot(&Media::GetDisplayNameForMedia), Slot(&Media::GetIccprofileForMedia),
+      Slot(&Media::GetIccprofileList),      Slot(&Media::SetDisplayNameForMedia),
+      Slot(&Media::SetIccprofileForMedia),  Slot(&Media::AddIccprofile),
+      Slot(&Media::HasIccprofile),          Slot(&Media::LoadCustomMediaFile),
+      Slot(&Media::SaveCustomMediaFile),    Slot(&Media::ClearStringMap)};
+  for (std::size_t i = 0; i < mediaSlots.size(); ++i) EXPECT_EQ(mediaSlots[i], i + 2) << i;
 }
 
 }  // namespace

@@ -1,11 +1,8 @@
 #include "qdf/localise/custommedia.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <cstdint>
-#include <cstring>
 #include <functional>
 
 #include "tests/children.h"
@@ -161,25 +158,6 @@ TEST_F(CustomMedia, CallsItselfThroughTheTable) {
   EXPECT_EQ(media.AddIccprofile("p"), 1);
   EXPECT_EQ(media.calls, 112);
   EXPECT_EQ(media.Media::HasIccprofile("p"), 0);
-}
-
-// The position in the table of virtual operations, of which the destructor takes the first two: a
-// member pointer holds one more than the byte distance from the table's start.
-template <class Member>
-std::intptr_t Slot(Member member) {
-  std::intptr_t distance = 0;
-  std::memcpy(&distance, &member, sizeof distance);
-  return (distance - 1) / static_cast<std::intptr_t>(sizeof(void*));
-}
-
-TEST(CustomMediaTable, KeepsItsOrder) {
-  const std::vector<std::intptr_t> slots = {
-      Slot(&Media::GetDisplayNameForMedia), Slot(&Media::GetIccprofileForMedia),
-      Slot(&Media::GetIccprofileList),      Slot(&Media::SetDisplayNameForMedia),
-      Slot(&Media::SetIccprofileForMedia),  Slot(&Media::AddIccprofile),
-      Slot(&Media::HasIccprofile),          Slot(&Media::LoadCustomMediaFile),
-      Slot(&Media::SaveCustomMediaFile),    Slot(&Media::ClearStringMap)};
-  EXPECT_THAT(slots, testing::ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 11));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/documents.h"
-#include "tests/files.h"
 
 namespace {
 
@@ -62,34 +61,6 @@ TEST(TranslationTable, ReadsALine) {
              "ab=<0041>")) {
     EXPECT_EQ(Read(line.c_str()), "-") << line;
   }
-}
-
-TEST(TranslationTable, TellsWhichLinesDoNotCountAndWhy) {
-  const std::string longKey(1023, 'k');
-  const TempFolder folder;
-  const std::string path =
-      folder.Write("table.txt", "aa=bb\nnone\n=cc\nd=dd\nee=e\nff=/:\n" + longKey + "=x\nzz=last");
-  std::vector<std::string> lines;
-  AFilePath filePath(path.c_str());
-  const int read = ReadTranslationTable(filePath, [&](const TableLine& line) {
-    std::string text = std::to_string(line.Line.Number) + " ";
-    if (line.Line.Piece > 0) text += "piece " + std::to_string(line.Line.Piece) + " ";
-    text.append(line.Fault != nullptr ? AString(line.Fault) : line.Pair.Translation);
-    lines.push_back(text);
-  });
-  EXPECT_EQ(read, 1);
-  EXPECT_EQ(Join(lines, "\n"),
-            "1 bb\n"
-            "2 it has no \"=\"\n"
-            "3 nothing stands before the \"=\"\n"
-            "4 the key has fewer than two characters\n"
-            "5 the value has fewer than two characters\n"
-            "6 nothing is left of the value\n"
-            "7 piece 1 it has no \"=\"\n"
-            "7 piece 2 nothing stands before the \"=\"\n"
-            "8 last");
-  AFilePath missing(folder.Path("missing").c_str());
-  EXPECT_EQ(ReadTranslationTable(missing, [](const TableLine&) { FAIL(); }), 0);
 }
 
 }  // namespace

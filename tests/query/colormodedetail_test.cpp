@@ -13,9 +13,7 @@ namespace {
 
 // A document with one path of five ids 1, and on it a colour mode of these attributes and children.
 std::unique_ptr<APMQDF> OnePath(const std::string& attributes, const std::string& children) {
-  std::string control = Control("[1[1[1[1[1]]]]]", children);
-  control.insert(control.find("<ColorMode") + 10, " " + attributes);
-  return Load({.Control = control});
+  return Load({.Control = Control("[1[1[1[1[1]]]]]", children, attributes)});
 }
 
 // "profiles>default dithers>default" behind what the vectors held.
@@ -59,13 +57,9 @@ TEST(ColorModeDetail, ListsNamesAndDefaults) {
                ">z >z"},
               {"DefaultDither='z'", "", "", "> >"}};
   for (const auto& row : rows) {
-    std::string profiles(row.profiles);
-    for (std::size_t at = 0; (at = profiles.find('|', at)) != std::string::npos;) {
-      profiles.replace(at, 1, "</ICCProfile><ICCProfile>");
-    }
+    std::string profiles = Replaced(row.profiles, "|", "</ICCProfile><ICCProfile>");
     if (!profiles.empty()) profiles = "<ICCProfile>" + profiles + "</ICCProfile>";
     const auto document = OnePath(row.attributes, profiles + row.dithers);
-    ASSERT_NE(document, nullptr);
     EXPECT_EQ(Names(*document), row.names) << row.attributes << row.profiles;
   }
 }

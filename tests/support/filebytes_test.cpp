@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -12,7 +11,6 @@
 #include <string>
 
 #include "qdf/localise/custommedia.h"
-#include "tests/children.h"
 #include "tests/documents.h"
 #include "tests/files.h"
 
@@ -64,20 +62,6 @@ TEST(Files, MayStandDeepDown) {
   FileBytes bytes;
   EXPECT_STREQ(ReadFileBytes(tooLong.c_str(), bytes), "the path is too long");
   EXPECT_FALSE(LoadsAndWrites(name + tooLong));
-}
-
-TEST(Files, WithoutPermissionAreNotRead) {
-  const TempFolder folder;
-  const std::string path = folder.Write("d.qdf", DocumentText{}.Text());
-  chmod(folder.Path().c_str(), 0755);
-  chmod(path.c_str(), 0);
-  EXPECT_EQ(InChild([&] {
-              DropPrivileges();
-              FileBytes bytes;
-              const std::string reason = ReadFileBytes(path.c_str(), bytes);
-              return reason == "no permission to read it" && LoadFile(path) == nullptr ? 0 : 1;
-            }),
-            0);
 }
 
 // Whatever part of it a reader sees, a document is taken whole or not at all.

@@ -40,20 +40,6 @@ TEST(SaveFileBytes, ReplacesInPlaceWhateverTheSizes) {
   EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
 }
 
-TEST(SaveFileBytes, RefusesWhatIsNoFile) {
-  const TempFolder folder;
-  fs::create_directory(folder.Path("folder"));
-  fs::create_symlink("nowhere", folder.Path("dangling"));
-  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
-  for (const char* name : {"folder", "dangling", "pipe", "none/file", ""}) {
-    EXPECT_EQ(SaveFileBytes(folder.Path(name).c_str(), "new"), 0) << name;
-  }
-  EXPECT_EQ(SaveFileBytes("", "new"), 0);
-  EXPECT_EQ(SaveFileBytes("/dev/null", "new"), 0);
-  EXPECT_FALSE(fs::exists(folder.Path("nowhere")));
-  EXPECT_FALSE(fs::exists(folder.Path("none")));
-}
-
 // The limit holds for what is overwritten as well, so a save that shrinks a file meets it too.
 TEST(SaveFileBytes, KeepsTheFormerFileBeyondTheSizeLimit) {
   const TempFolder folder;

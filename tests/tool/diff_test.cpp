@@ -1,31 +1,26 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/documents.h"
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
-struct Edit {
-  const char* from;
-  const char* to;
-};
+using testing::HasSubstr;
 
-// Every place of each text is replaced.
+using Edit = std::pair<std::string, std::string>;
+
+// Every place of each first text is replaced by the second.
 std::string Edited(const std::vector<Edit>& edits) {
   std::string text = kSmallDocument;
-  for (const Edit& edit : edits) {
-    std::size_t at = text.find(edit.from);
-    EXPECT_NE(at, std::string::npos) << edit.from;
-    for (; at != std::string::npos; at = text.find(edit.from, at + std::string(edit.to).size())) {
-      text.replace(at, std::string(edit.from).size(), edit.to);
-    }
+  for (const auto& [from, to] : edits) {
+    EXPECT_THAT(text, HasSubstr(from));
+    text = Replaced(text, from, to);
   }
   return text;
 }
 
-class Diff : public testing::Test {
+class Diff : public QdfTest {
  protected:
   Diff() { folder_.Write("a.qdf", kSmallDocument); }
 
@@ -33,10 +28,8 @@ class Diff : public testing::Test {
     folder_.Write("b.qdf", text);
     Words words = {"diff", "a.qdf", "b.qdf"};
     words.insert(words.end(), more.begin(), more.end());
-    return RunTool(words, {folder_.Path()});
+    return RunWords(words);
   }
-
-  TempFolder folder_;
 };
 
 std::string Head(const std::string& result) {
@@ -44,20 +37,18 @@ std::string Head(const std::string& result) {
 }
 
 TEST_F(Diff, LooksThroughOrderNodesAndIDs) {
-  const std::vector<Edit> rows[] = {
-      {},
-      {{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""},
-       {"ID=\"40,41\"", "ID=\"41,40\""},
-       {"<Dither Name=\"Coarse\"",
-        "<Dither Name=\"Fine\" RipResolution=\"72\"/><Dither Name=\"Coarse\""},
-       {"</Control_Definition>", "<Ink ID=\"3\"/></Control_Definition>"}},
-      {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", ""},
-       {"</Control_Definition>", "<Ink ID=\"2\"><Media ID=\"10\"/></Ink></Control_Definition>"}},
-  };
-  EXPECT_EQ(With(Edited(rows[0])), (Outcome{0, Head("equal in meaning")}));
-  EXPECT_EQ(With(Edited(rows[1])), (Outcome{0, Head("equal in meaning")}));
+  const std::string same =
+      Edited({{"ID=\"10,11,12\"", "ID=\"12,10,10,77,11\""},
+              {"ID=\"40,41\"", "ID=\"41,40\""},
+              {"<Dither Name=\"Coarse\"",
+               "<Dither Name=\"Fine\" RipResolution=\"72\"/><Dither Name=\"Coarse\""},
+              {"</Control_Definition>", "<Ink ID=\"3\"/></Control_Definition>"}});
+  EXPECT_EQ(With(same), (Outcome{0, Head("equal in meaning")}));
   // One medium was behind the node that is asked, the other one is now; nothing follows that.
-  EXPECT_EQ(With(Edited(rows[2])), (Outcome{1, Head("different") + R"(
+  const std::string deadEnd = "<Ink ID=\"2\"><Media ID=\"10\"/></Ink>";
+  const std::string later = deadEnd + "</Control_Definition>";
+  EXPECT_EQ(With(Edited({{deadEnd, ""}, {"</Control_Definition>", later}})),
+            (Outcome{1, Head("different") + R"(
 Dead ends gone (1)
   Ink          Media  How many
   Matte Black  Plain         1
@@ -116,19 +107,18 @@ Settings of media sources (1)
   Setting             Before  After  For   How many
   Default media size  A4      -      Tray         1
 )"}));
+  EXPECT_EQ(nlohmann::json::parse(With(text, {"--json"}).out)["deadEndsNew"][0]["media"],
+            nlohmann::json({{"except", {"Glossy (gl2)"}}}));
   // Without margins it is one.
-  const std::string out =
-      With(Edited({{"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60\" MarginIDList=\"70\"/>"}})).out;
-  EXPECT_NE(out.find(R"( combinations lost (1)
+  const Edit margins = {"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60\" MarginIDList=\"70\"/>"};
+  EXPECT_THAT(With(Edited({margins})).out, HasSubstr(R"( combinations lost (1)
   Media source  Margins  How many
   Tray          none            1
 
 Groups of media source combinations won (1)
   Media source  How many
   Tray                 1
-)"),
-            std::string::npos)
-      << out;
+)"));
 }
 
 TEST_F(Diff, TellsChangesByNameAndTheWeightiestFirst) {
@@ -198,8 +188,8 @@ Groups of media source combinations won (1)
 TEST_F(Diff, NamesNoneWhereAllThatReachSoFarAreMeant) {
   const Edit noSecondInk = {"<Ink ID=\"2\"><Media ID=\"13\">", "<Ink ID=\"77\"><Media ID=\"13\">"};
   folder_.Write("a.qdf", Edited({noSecondInk}));
-  const Outcome outcome = With(Edited({noSecondInk, {"Quality=1", "Quality=2"}}));
-  EXPECT_EQ(outcome, (Outcome{1, Head("different") + R"(
+  EXPECT_EQ(With(Edited({noSecondInk, {"Quality=1", "Quality=2"}})),
+            (Outcome{1, Head("different") + R"(
 Settings of combinations (1)
   Setting                Before     After      For          How many
   Printer specific text  Quality=1  Quality=2  all of them        24
@@ -207,12 +197,11 @@ Settings of combinations (1)
 }
 
 TEST_F(Diff, ComparesColorantsByTheirPlaces) {
-  const char* gold = "<X IsSpotColor=\"1\" IsPrint=\"0\"><DisplayName>Gold</DisplayName></X>";
-  const std::string first = std::string(gold) + "<X Shape=";
-  const std::string told[] = {With(Edited({{gold, ""}, {"<X Shape=", first.c_str()}})).out,
-                              With(Edited({{"<X IsSpot", "<X Angle=\"45\" IsSpot"}})).out};
-  EXPECT_NE(told[0].find("Colorants: Cyan, Gold becomes Gold, Cyan"), std::string::npos) << told[0];
-  EXPECT_NE(told[1].find("Gold, Angle as a setting: 0 becomes 45"), std::string::npos) << told[1];
+  const std::string gold = "<X IsSpotColor=\"1\" IsPrint=\"0\"><DisplayName>Gold</DisplayName></X>";
+  EXPECT_THAT(With(Edited({{gold, ""}, {"<X Shape=", gold + "<X Shape="}})).out,
+              HasSubstr("Colorants: Cyan, Gold becomes Gold, Cyan"));
+  EXPECT_THAT(With(Edited({{"<X IsSpot", "<X Angle=\"45\" IsSpot"}})).out,
+              HasSubstr("Gold, Angle as a setting: 0 becomes 45"));
 }
 
 TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
@@ -234,17 +223,15 @@ TEST_F(Diff, ComparesTheSettingsThatAreHandedOut) {
   };
   for (const auto& row : rows) {
     const Outcome outcome = With(Edited({row.edit}));
-    EXPECT_EQ(outcome.code, *row.told == '\0' ? 0 : 1) << row.edit.to;
-    EXPECT_NE(outcome.out.find(row.told), std::string::npos) << outcome.out;
+    EXPECT_EQ(outcome.code, *row.told == '\0' ? 0 : 1) << row.edit.second;
+    EXPECT_THAT(outcome.out, HasSubstr(row.told));
   }
 }
 
 // The lists begin with the same items.
 TEST_F(Diff, TellsOfLongListsWhatDiffers) {
   const std::string last = "<ICCProfile>b.icc</ICCProfile>";
-  const auto with = [&](const std::string& more) {
-    return Edited({{last.c_str(), (last + more).c_str()}});
-  };
+  const auto with = [&](const std::string& more) { return Edited({{last, last + more}}); };
   folder_.Write("a.qdf", with("<ICCProfile>c</ICCProfile><ICCProfile>d</ICCProfile>"));
   const struct {
     const char* profiles;
@@ -256,8 +243,7 @@ TEST_F(Diff, TellsOfLongListsWhatDiffers) {
        "Profiles  a.icc, b.icc and 2 more  the same in another order  "},
   };
   for (const auto& row : rows) {
-    const std::string out = With(with(row.profiles)).out;
-    EXPECT_NE(out.find(row.told), std::string::npos) << out;
+    EXPECT_THAT(With(with(row.profiles)).out, HasSubstr(row.told));
   }
 }
 
@@ -274,26 +260,16 @@ TEST_F(Diff, TellsProgramsTheSameFromEitherSide) {
   EXPECT_EQ(back["combinationsLost"], there["combinationsWon"]);
 }
 
-std::string NumbersTo(int last) {
-  std::string text = "1";
-  for (int i = 2; i <= last; ++i) text += ',' + std::to_string(i);
-  return text;
-}
-
 TEST_F(Diff, SaysWithCode2WhatCannotBeCompared) {
-  EXPECT_EQ(With("<Q>"), (Outcome{2, "", "qdf: b.qdf:1:1: this element is not closed\n"}));
-  EXPECT_EQ(RunTool({"diff", "a.qdf"}, {folder_.Path()}),
-            (Outcome{2, "", "qdf: B is required; try 'qdf diff --help'\n"}));
+  EXPECT_EQ(With("<Q>"), Refused("b.qdf:1:1: this element is not closed", 2));
+  EXPECT_EQ(Run("diff a.qdf"), Refused("B is required; try 'qdf diff --help'", 2));
   // A million combinations.
-  std::string entries;
-  for (int i = 1; i <= 1000; ++i) {
-    entries += (i > 1 ? ";" : "") + std::to_string(i);
-  }
-  const std::string all = NumbersTo(1000);
-  const std::string large = DocumentText{.InkList = Entries(entries),
-                                         .MediaList = Entries(entries),
-                                         .Control = Control(">1[" + all + ">1[" + all + "]]")}
-                                .Text();
+  std::vector<std::string> ids;
+  for (int i = 1; i <= 1000; ++i) ids.push_back(std::to_string(i));
+  const std::string entries = Entries(Join(ids, ";"));
+  const std::string large =
+      DocumentText{.InkList = entries, .MediaList = entries, .Control = Control(">1[ALL>1[ALL]]")}
+          .Text();
   folder_.Write("a.qdf", large);
   EXPECT_EQ(With(large), (Outcome{0, R"(First:         a.qdf
 Second:        b.qdf

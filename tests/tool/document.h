@@ -3,6 +3,8 @@
 // A small document with all that the commands have to tell apart: no two numbers are the same, one
 // name belongs to two media, and one medium's name is another one's id.
 
+#include "tests/tool/run.h"
+
 constexpr const char* kSmallDocument = R"(<QDF_Info><Definition>
 <ProductType>small</ProductType><TranslationTable>small.txt</TranslationTable>
 <InkList>
@@ -68,3 +70,9 @@ constexpr const char* kSmallDocument = R"(<QDF_Info><Definition>
   <MediaSource ID="51"><MediaSize ID="60"/></MediaSource>
 </MediaSource_Control>
 </QDF_Info>)";
+
+// The program is run where it stands as small.qdf.
+class SmallDocumentTest : public QdfTest {
+ protected:
+  SmallDocumentTest() { folder_.Write("small.qdf", kSmallDocument); }
+};

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "tests/files.h"
 #include "tests/tool/commands.h"
 #include "tests/tool/run.h"
 

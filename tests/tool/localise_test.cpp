@@ -1,11 +1,14 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "tests/files.h"
+#include "tests/documents.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
 
 // The names in the small document are Photo Black, Glossy, Draft and so on.
 constexpr const char* kTable =
@@ -17,7 +20,10 @@ constexpr const char* kTable =
     "Glossy=Brillant\n"
     "*A4=/DIN A4:\n"
     "=nothing\n"
-    "*Cyan=/<E9>t:\n";
+    "*Cyan=/<E9>t:\n"
+    "d=dd\n"
+    "ee=e\n"
+    "ff=/:\n";
 
 class QdfLocalise : public QdfTest {
  protected:
@@ -28,16 +34,12 @@ class QdfLocalise : public QdfTest {
 };
 
 TEST_F(QdfLocalise, ShowsTheTranslatedDocument) {
-  const Outcome shown = Run("localise small.qdf");
-  EXPECT_TRUE(
-      shown.out.starts_with("Document:           OutputDrivers/small.qdf\n"
-                            "Table file:         OutputDrivers/small.txt\n"
-                            "Names translated:   5\n"
-                            "Product type:       small\n"))
-      << shown;
-  EXPECT_NE(shown.out.find("\n  11  Brillant      gl                        0  Glossy\n"),
-            std::string::npos)
-      << shown;
+  const std::string shown = Run("localise small.qdf").out;
+  EXPECT_THAT(shown, StartsWith("Document:           OutputDrivers/small.qdf\n"
+                                "Table file:         OutputDrivers/small.txt\n"
+                                "Names translated:   5\n"
+                                "Product type:       small\n"));
+  EXPECT_THAT(shown, HasSubstr("\n  11  Brillant      gl                        0  Glossy\n"));
   const nlohmann::json report = Json("localise small.qdf");
   EXPECT_EQ(report["translated"], 5);
   EXPECT_EQ(report["inks"][0]["displayName"], "Noir photo");
@@ -46,14 +48,12 @@ TEST_F(QdfLocalise, ShowsTheTranslatedDocument) {
 }
 
 TEST_F(QdfLocalise, WritesTranslatedMediaToo) {
-  const Outcome written = Run("localise small.qdf -o new.qdf");
-  EXPECT_TRUE(
-      written.out.starts_with("Document:          OutputDrivers/small.qdf\n"
-                              "Table file:        OutputDrivers/small.txt\n"
-                              "Names translated:  5\n"
-                              "Written:           new.qdf\n"
-                              "\nNo longer held (10)\n"))
-      << written;
+  EXPECT_THAT(Run("localise small.qdf -o new.qdf").out,
+              StartsWith("Document:          OutputDrivers/small.qdf\n"
+                         "Table file:        OutputDrivers/small.txt\n"
+                         "Names translated:  5\n"
+                         "Written:           new.qdf\n"
+                         "\nNo longer held (10)\n"));
   const nlohmann::json shown = Json("show ./new.qdf");
   EXPECT_EQ(shown["media"][1]["displayName"], "Brillant");
   EXPECT_EQ(shown["media"][1]["id"], 11);
@@ -67,11 +67,14 @@ TEST_F(QdfLocalise, ListsHowDocumentAndTableMissEachOther) {
   Line  Key   Translation
      5  Gone  Parti
 
-Lines that don't count (3)
-  Line  Why                            Text
-     2  line 6 has the same key        Glossy=Matt
-     4  it has no "="                  no pair
-     8  nothing stands before the "="  =nothing
+Lines that don't count (6)
+  Line  Why                                      Text
+     2  line 6 has the same key                  Glossy=Matt
+     4  it has no "="                            no pair
+     8  nothing stands before the "="            =nothing
+    10  the key has fewer than two characters    d=dd
+    11  the value has fewer than two characters  ee=e
+    12  nothing is left of the value             ff=/:
 )");
   const nlohmann::json names = Json("localise small.qdf --untranslated")["untranslated"];
   std::string listed;
@@ -101,9 +104,8 @@ TEST_F(QdfLocalise, TellsOfPiecesOfLinesAndOfWhatANulHides) {
 }
 
 TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
-  const auto document = [](const std::string& table) {
-    std::string text = kSmallDocument;
-    return text.replace(text.find("small.txt"), 9, table);
+  const auto document = [](const char* table) {
+    return Replaced(kSmallDocument, "small.txt", table);
   };
   folder_.Write("OutputDrivers/none.qdf", document(""));
   folder_.Write("OutputDrivers/up.qdf", document("../OutputDrivers/small.txt"));
@@ -112,7 +114,7 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
   folder_.Write("OutputDrivers/folder.qdf", document("folder"));
   folder_.Write("OutputDrivers/folder/file", "");
   ASSERT_EQ(symlink("OutputDrivers/small.txt", folder_.Path("link").c_str()), 0);
-  const std::pair<const char*, const char*> refusals[] = {
+  const Refusals refusals = {
       {"none.qdf", "OutputDrivers/none.qdf: it names no translation table"},
       {"up.qdf",
        "OutputDrivers/up.qdf: the name of its translation table, \"../OutputDrivers/small.txt\", "
@@ -127,9 +129,7 @@ TEST_F(QdfLocalise, RefusesWhatIsNoTableOfTheDocument) {
        "OutputDrivers/small.txt: this is the document's translation table"},
       {"small.qdf -o link", "link: this is the document's translation table"},
   };
-  for (const auto& [words, line] : refusals) {
-    EXPECT_EQ(Run(std::string("localise ") + words), Refused(line));
-  }
+  ExpectRefusals("localise", refusals);
   EXPECT_EQ(Run("localise small.qdf -o x --untranslated"),
             Refused("--output and --untranslated don't go together", 2));
   EXPECT_EQ(File("OutputDrivers/small.txt"), kTable);

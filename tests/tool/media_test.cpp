@@ -1,14 +1,16 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <chrono>
 
 #include "tests/children.h"
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
+
+using testing::HasSubstr;
 
 constexpr const char* kFile =
     "# set by hand\n"
@@ -32,18 +34,11 @@ class QdfMedia : public QdfTest {
     folder_.Write("OutputDrivers/small.qdf", DocumentNaming("small_custom.txt"));
     folder_.Write(kPath, kFile);
   }
-
-  // With these changes.
-  Outcome RunMedia(const Words& changes, const Setting& setting = {}) const {
-    Words words = {"media", "small.qdf"};
-    words.insert(words.end(), changes.begin(), changes.end());
-    return RunWords(words, setting);
-  }
   std::string MediaFile() const { return File(kPath); }
 };
 
 TEST_F(QdfMedia, ShowsTheFileAndLeavesItAlone) {
-  EXPECT_EQ(From("Media (2)", RunMedia({})), R"(Media (2)
+  EXPECT_EQ(From("Media (2)", Run("media small.qdf")), R"(Media (2)
   Medium  Display name  Profile  IDs in the document
   pl      Everyday      pl.icc   10
   own     Own=Way/2     -        none
@@ -58,13 +53,12 @@ Lines that don't count (2)
 
 TEST_F(QdfMedia, ChangesTheFile) {
   const Outcome changed =
-      RunMedia({"--set-name", "own=", "--set-profile", "Glossy=g.icc", "--set-name", "Glossy=Silk",
-                "--add-profile", "b.icc", "--add-profile", "FIRST.ICC", "--remove", "pl"});
+      Run("media small.qdf --set-name own= --set-profile Glossy=g.icc --set-name Glossy=Silk "
+          "--add-profile b.icc --add-profile FIRST.ICC --remove pl");
   EXPECT_EQ(changed.code, 0) << changed;
-  EXPECT_NE(changed.out.find("State:              saved\n"), std::string::npos);
-  EXPECT_NE(changed.out.find("  Glossy  Silk          g.icc    11, 13\n"), std::string::npos)
-      << changed;
-  EXPECT_NE(changed.out.find("\nLines that were dropped (2)\n"), std::string::npos);
+  EXPECT_THAT(changed.out, AllOf(HasSubstr("State:              saved\n"),
+                                 HasSubstr("  Glossy  Silk          g.icc    11, 13\n"),
+                                 HasSubstr("\nLines that were dropped (2)\n")));
   EXPECT_EQ(MediaFile(),
             "key_Iccprofile=first.icc\n"
             "key_Iccprofile=b.icc\n"
@@ -85,14 +79,12 @@ TEST_F(QdfMedia, MakesTheFileWhenThereIsNone) {
 TEST_F(QdfMedia, NeverHidesThatTheLastEntryStays) {
   const std::string last = "key_DisplayName_ForMedia=pl/Everyday\n";
   folder_.Write(kPath, last);
-  const Outcome refused = Refused(
-      kPath + std::string(": that would remove the last entry, but the library never writes a "
-                          "file without entries, so the old lines would stay; delete the "
-                          "file"));
-  EXPECT_EQ(RunMedia({"--remove", "pl"}), refused);
-  EXPECT_EQ(RunMedia({"--set-name", "pl="}), refused);
+  const std::string line =
+      "OutputDrivers/small_custom.txt: that would remove the last entry, but the library never "
+      "writes a file without entries, so the old lines would stay; delete the file";
+  ExpectRefusals("media small.qdf", {{"--remove pl", line}, {"--set-name pl=", line}});
   EXPECT_EQ(MediaFile(), last);
-  EXPECT_EQ(RunMedia({"--remove", "pl", "--set-name", "gl=Silk"}).code, 0);
+  EXPECT_EQ(Run("media small.qdf --remove pl --set-name gl=Silk").code, 0);
   EXPECT_EQ(MediaFile(), "key_DisplayName_ForMedia=gl/Silk\n");
 }
 
@@ -100,27 +92,26 @@ TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {
   const std::string file = kPath;
   std::string tooLong = "x";
   while (tooLong.size() < 997) tooLong += "\u00e9";
-  const std::pair<Words, std::string> refusals[] = {
-      {{"--set-name", "pl"}, "--set-name takes a medium, \"=\" and what to set for it, not \"pl\""},
-      {{"--set-profile", "=p"},
+  const std::array<std::string, 3> refusals[] = {
+      {"--set-name", "pl", "--set-name takes a medium, \"=\" and what to set for it, not \"pl\""},
+      {"--set-profile", "=p",
        "--set-profile takes a medium, \"=\" and what to set for it, not \"=p\""},
-      {{"--add-profile", ""}, "--add-profile takes the name of a profile"},
-      {{"--set-name", "a/b=c"}, "--set-name: the name of a medium can't hold \"/\": \"a/b=c\""},
-      {{"--remove", ""}, "--remove: the name of the medium is empty: \"\""},
-      {{"--set-name", "a=b\nc"},
+      {"--add-profile", "", "--add-profile takes the name of a profile"},
+      {"--set-name", "a/b=c", "--set-name: the name of a medium can't hold \"/\": \"a/b=c\""},
+      {"--remove", "", "--remove: the name of the medium is empty: \"\""},
+      {"--set-name", "a=b\nc",
        "--set-name: a line of the file can't hold a line break: \"a=b\\x0Ac\""},
-      {{"--set-name", "a= b"}, "--set-name: white space at the ends of a text gets lost: \"a= b\""},
-      {{"--set-name", " =b"}, "--set-name: white space at the ends of a text gets lost: \" =b\""},
-      {{"--add-profile", " p"},
-       "--add-profile: white space at the ends of a text gets lost: \" p\""},
-      {{"--set-name", "a=" + tooLong},
+      {"--set-name", "a= b", "--set-name: white space at the ends of a text gets lost: \"a= b\""},
+      {"--set-name", " =b", "--set-name: white space at the ends of a text gets lost: \" =b\""},
+      {"--add-profile", " p", "--add-profile: white space at the ends of a text gets lost: \" p\""},
+      {"--set-name", "a=" + tooLong,
        "--set-name: a line of the file has at most 1,023 characters, not 1024: \"a=" +
            tooLong.substr(0, 97) + "...\""},
-      {{"--remove", "Pl"}, file + ": nothing is set for medium \"Pl\""},
-      {{"--set-profile", "gl="}, file + ": nothing is set for medium \"gl\""},
+      {"--remove", "Pl", file + ": nothing is set for medium \"Pl\""},
+      {"--set-profile", "gl=", file + ": nothing is set for medium \"gl\""},
   };
-  for (const auto& [words, line] : refusals) {
-    EXPECT_EQ(RunMedia(words), Refused(line, 2));
+  for (const auto& [option, value, line] : refusals) {
+    EXPECT_EQ(RunWords({"media", "small.qdf", option, value}), Refused(line, 2));
   }
   EXPECT_EQ(MediaFile(), kFile);
 }
@@ -132,7 +123,7 @@ TEST_F(QdfMedia, TakesSecondsAtMostForAFullFile) {
   }
   folder_.Write(kPath, text);
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(RunMedia({"--set-name", "medium59999=last"}).code, 0);
+  EXPECT_EQ(Run("media small.qdf --set-name medium59999=last").code, 0);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
   EXPECT_EQ(MediaFile(), text.replace(text.rfind("name"), 4, "last"));
 }
@@ -140,19 +131,19 @@ TEST_F(QdfMedia, TakesSecondsAtMostForAFullFile) {
 TEST_F(QdfMedia, SaysWhyTheFileCannotBeReadOrSaved) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0755), 0);
   const std::string path = kPath;
-  EXPECT_EQ(RunMedia({"--remove", "pl"}, {.asNobody = true}),
+  EXPECT_EQ(Run("media small.qdf --remove pl", {.asNobody = true}),
             Refused(path + ": it can't be saved: no permission to write it"));
   folder_.Write(kPath, kFile + ("key_Iccprofile=" + std::string(900, 'p')) + '\n' + kFile);
   const std::string before = MediaFile();
   EXPECT_EQ(InChild([&] {
               LimitFileSizes(900);
               const Outcome full = Refused(path + ": it can't be saved: there is no room for it");
-              return RunMedia({"--remove", "pl"}) == full ? 0 : 1;
+              return Run("media small.qdf --remove pl") == full ? 0 : 1;
             }),
             0);
   EXPECT_EQ(MediaFile(), before);
   ASSERT_EQ(chmod(folder_.Path(kPath).c_str(), 0), 0);
-  EXPECT_EQ(RunMedia({"--set-name", "a=b"}, {.asNobody = true}),
+  EXPECT_EQ(Run("media small.qdf --set-name a=b", {.asNobody = true}),
             Refused(path + ": no permission to read it"));
 }
 
@@ -184,7 +175,7 @@ TEST_F(QdfMedia, ReplacesNothingButACustomMediaFile) {
   EXPECT_EQ(MediaFile(), notes);
   for (const char* harmless : {"", " \n\n", "key_DisplayName_ForMedia=pl/\nnote\n"}) {
     folder_.Write(kPath, harmless);
-    EXPECT_EQ(RunMedia({"--set-name", "a=b"}).code, 0) << harmless;
+    EXPECT_EQ(Run("media small.qdf --set-name a=b").code, 0) << harmless;
   }
 }
 

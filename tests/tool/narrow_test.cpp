@@ -3,33 +3,22 @@
 #include <set>
 
 #include "tests/documents.h"
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
-class Narrow : public testing::Test {
+class Narrow : public SmallDocumentTest {
  protected:
-  Narrow() { folder_.Write("small.qdf", kSmallDocument); }
-
-  Outcome Run(const Words& choices) const {
-    Words words = {"narrow", "small.qdf"};
-    words.insert(words.end(), choices.begin(), choices.end());
-    return RunTool(words, {folder_.Path()});
+  Outcome Run(const std::string& choices) const {
+    return SmallDocumentTest::Run("narrow small.qdf " + choices);
   }
-
   nlohmann::json Json(const std::string& choices) const {
-    return RunJson(SplitWords("narrow small.qdf " + choices), {folder_.Path()});
+    return SmallDocumentTest::Json("narrow small.qdf " + choices);
   }
-
- private:
-  TempFolder folder_;
 };
 
 TEST_F(Narrow, ListsWhatTheNextLevelOffers) {
-  EXPECT_EQ(Run({"--ink", "1", "--media", "pl", "--print-mode", "dr", "--resolution", "fine"}),
-            (Outcome{0, R"(Choice
+  EXPECT_EQ(Run("--ink 1 --media pl --print-mode dr --resolution fine"), (Outcome{0, R"(Choice
   Ink:         1 Photo Black (default)
   Media:       10 Plain
   Print mode:  20 Draft
@@ -43,7 +32,7 @@ Colour modes (2)
 }
 
 TEST_F(Narrow, TellsTheWholeDefaultJob) {
-  EXPECT_EQ(Run({"--defaults"}), (Outcome{0, R"(Choice
+  EXPECT_EQ(Run("--defaults"), (Outcome{0, R"(Choice
   Ink:           1 Photo Black (default)
   Media:         11 Glossy (default)
   Print mode:    21 Best (default)
@@ -109,14 +98,14 @@ TEST_F(Narrow, TakesAnIDBeforeANameAndTheExactNameFirst) {
 }
 
 TEST_F(Narrow, ListsTheChoicesForAnUnknownOrAmbiguousName) {
-  EXPECT_EQ(Run({"--ink", "mate"}), (Outcome{2, "", R"(qdf: small.qdf: ink "mate" is unknown
+  EXPECT_EQ(Run("--ink mate"), (Outcome{2, "", R"(qdf: small.qdf: ink "mate" is unknown
 Choices (3)
   ID  Display name  Internal name
    2  Matte Black   mt
    3  Unused        un
    1  Photo Black   ph
 )"}));
-  EXPECT_EQ(Run({"--ink", "2", "--media", "glossy"}),
+  EXPECT_EQ(Run("--ink 2 --media glossy"),
             (Outcome{2, "", R"(qdf: small.qdf: media "glossy" is ambiguous, give an id
 Choices (2)
   ID  Display name  Internal name
@@ -126,10 +115,7 @@ Choices (2)
 }
 
 TEST_F(Narrow, SaysWhichLevelGaveNone) {
-  const struct {
-    const char* choices;
-    const char* line;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"--ink 3", "no media for ink 3 \"Unused\""},
       {"--ink 3 --defaults", "no media for ink 3 \"Unused\""},
       {"--ink 2 --media 11", "media 11 \"Glossy\" isn't offered for ink 2 \"Matte Black\""},
@@ -142,17 +128,13 @@ TEST_F(Narrow, SaysWhichLevelGaveNone) {
       {"--source 51 --size 60", "no margins for media source 51 \"Tray\", media size 60 \"A4\""},
       {"--source 51 --size 61", "media size 61 \"A3\" isn't offered for media source 51 \"Tray\""},
   };
-  for (const auto& row : rows) {
-    const std::string line = std::string("qdf: small.qdf: ") + row.line + '\n';
-    EXPECT_EQ(Run(SplitWords(row.choices)), (Outcome{1, "", line}));
+  for (const auto& [choices, line] : rows) {
+    EXPECT_EQ(Run(choices), Refused(std::string("small.qdf: ") + line));
   }
 }
 
 TEST_F(Narrow, SaysWhy) {
-  const struct {
-    const char* choices;
-    const char* text;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"--ink 3", R"(
 Ink 3 "Unused" is offered, but no Ink element of the tree holds it, so no media
 follow. Ink 1 "Photo Black" or 2 "Matte Black" instead of 3 would give an
@@ -196,11 +178,10 @@ stands for these choices, MediaSource[2]/MediaSize (line 63, column 25). It has
 nothing below it. Media source 50 "Roll" instead of 51 would give an answer.
 )"},
   };
-  for (const auto& row : rows) {
-    const Outcome outcome = Run(SplitWords(row.choices + std::string(" --why")));
+  for (const auto& [choices, text] : rows) {
+    const Outcome outcome = Run(choices + std::string(" --why"));
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.out.substr(std::min(outcome.out.find("\n\n") + 1, outcome.out.size())),
-              row.text);
+    EXPECT_EQ(From("\n\n", outcome), std::string("\n") + text);
   }
   EXPECT_TRUE(std::string(Json("--why")["job"]["text"])
                   .starts_with("Inks 1 \"Photo Black\", 2 \"Matte Black\" and 3 \"Unused\" may"));
@@ -220,8 +201,7 @@ nothing below it. Media source 50 "Roll" instead of 51 would give an answer.
 }
 
 // Elements whose ids nobody knows stand among the others.
-TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
-  const TempFolder folder;
+TEST_F(Narrow, SaysWhatTheFoundNodeLacks) {
   std::string text = kSmallDocument;
   text.insert(text.find("<MediaSource ID"),
               "<MediaSource ID=\"7\"><MediaSize ID=\"60\"/></MediaSource>");
@@ -230,10 +210,8 @@ TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
       "<ICCProfile>late.icc</ICCProfile><DitherList SupportAll=\"0\">"
       "<Dither Name=\"Fine\"/><Dither Name=\"Late\"/></DitherList></ColorMode>";
   text.insert(text.find("</Resolution>"), again);
-  folder.Write("twice.qdf", text);
-  const nlohmann::json why =
-      RunJson(SplitWords("narrow twice.qdf --ink 1 --defaults --why --color-mode 40"),
-              {folder.Path()})["job"];
+  folder_.Write("small.qdf", text);
+  const nlohmann::json why = Json("--ink 1 --defaults --why --color-mode 40")["job"];
   const std::string first = "Ink[1]/Media/PrintMode/Resolution/ColorMode[1] (line 49, column 8)";
   const std::string later = "Ink[1]/Media/PrintMode/Resolution/ColorMode[3]";
   EXPECT_EQ(
@@ -245,29 +223,27 @@ TEST(NarrowWhy, SaysWhatTheFoundNodeLacks) {
   EXPECT_EQ(why["lacks"][1],
             nlohmann::json::parse(R"({"what": "dither", "name": "Late", "line": 55, "column": 2,
     "path": "/QDF_Info/Control_Definition/Ink[1]/Media/PrintMode/Resolution/ColorMode[3]"})"));
-  EXPECT_EQ(RunJson(SplitWords("narrow twice.qdf --source 51 --size 60 --why"),
-                    {folder.Path()})["mediaSource"]["nodes"][0]["path"],
+  EXPECT_EQ(Json("--source 51 --size 60 --why")["mediaSource"]["nodes"][0]["path"],
             "/QDF_Info/MediaSource_Control/MediaSource[3]/MediaSize");
 }
 
 // All single changes of a choice of three are tried.
-TEST(NarrowWhy, KnowsTheChangesThatGiveAnAnswer) {
-  const TempFolder folder;
-  folder.Write("d.qdf", DocumentText{.InkList = Entries("1;2"),
-                                     .MediaList = Entries("1;2;3"),
-                                     .PrintModeList = Entries("1;2;3"),
-                                     .Control = Control("[1[1,2[1[1[1]];3];3[2[1[1]]]];"
-                                                        "2[1[2[1[1]]];2[1,3[1]]];2[3[3[1[1]]]]]")}
-                            .Text());
-  const auto ask = [&](const std::vector<int>& ids, bool why) {
-    Words words = {"narrow", "d.qdf", "--ink", "0", "--media", "0", "--print-mode", "0"};
-    for (std::size_t i = 0; i < ids.size(); ++i) words[3 + 2 * i] = std::to_string(ids[i]);
-    if (why) words.emplace_back("--why");
-    return RunJson(words, {folder.Path()});
+TEST_F(Narrow, KnowsTheChangesThatGiveAnAnswer) {
+  folder_.Write("small.qdf",
+                DocumentText{.InkList = Entries("1;2"),
+                             .MediaList = Entries("1;2;3"),
+                             .PrintModeList = Entries("1;2;3"),
+                             .Control = Control("[1[1,2[1[1[1]];3];3[2[1[1]]]];"
+                                                "2[1[2[1[1]]];2[1,3[1]]];2[3[3[1[1]]]]]")}
+                    .Text());
+  const auto ask = [&](const std::vector<int>& ids, const char* how) {
+    AString choices;
+    choices.Format("--ink %d --media %d --print-mode %d %s", ids[0], ids[1], ids[2], how);
+    return Json(static_cast<const char*>(choices));
   };
   const std::string keys[] = {"ink", "media", "printMode"};
   for (const std::vector<int>& choice : {std::vector{1, 1, 3}, {2, 3, 3}, {2, 1, 1}, {1, 3, 3}}) {
-    const nlohmann::json why = ask(choice, true)["job"];
+    const nlohmann::json why = ask(choice, "--why")["job"];
     EXPECT_EQ(why["answers"], false);
     std::set<std::vector<int>> told;
     for (const auto& change : why["changes"]) {
@@ -280,10 +256,10 @@ TEST(NarrowWhy, KnowsTheChangesThatGiveAnAnswer) {
       for (int id = 1; id <= (level == 0 ? 2 : 3); ++id) {
         std::vector<int> changed = choice;
         changed[level] = id;
-        const bool answers = ask(changed, true)["job"]["answers"];
+        const bool answers = ask(changed, "--why")["job"]["answers"];
         EXPECT_EQ(told.count(changed) != 0, answers) << level << ' ' << id;
         if (answers) {
-          EXPECT_FALSE(ask(changed, false)["resolutions"].empty());
+          EXPECT_FALSE(ask(changed, "")["resolutions"].empty());
         }
       }
     }

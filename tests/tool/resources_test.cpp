@@ -35,8 +35,7 @@ TEST_F(QdfResources, ListsEachFileWithEachField) {
 TEST_F(QdfResources, NeedsAFolder) {
   folder_.Write("file", "");
   for (const char* command : {"resources", "sweep"}) {
-    EXPECT_EQ(RunWords({command, "none"}), Refused("none: no such folder"));
-    EXPECT_EQ(RunWords({command, "file"}), Refused("file: it is no folder"));
+    ExpectRefusals(command, {{"none", "none: no such folder"}, {"file", "file: it is no folder"}});
   }
   EXPECT_EQ(Run("resources .").out, "Folder:  .\n\nResources: none\n");
 }

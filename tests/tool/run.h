@@ -129,6 +129,8 @@ inline std::string From(const std::string& mark, const Outcome& outcome,
   return text.substr(0, text.find(end));
 }
 
+using Refusals = std::vector<std::pair<std::string, std::string>>;
+
 // A folder of its own that the program is run in. Lines are split at blanks into words.
 class QdfTest : public testing::Test {
  protected:
@@ -141,6 +143,12 @@ class QdfTest : public testing::Test {
   }
   nlohmann::json Json(const std::string& line) const {
     return RunJson(SplitWords(line), {folder_.Path()});
+  }
+  // The command with the words of each row says what stands beside them, and nothing else.
+  void ExpectRefusals(const std::string& command, const Refusals& rows, int code = 1) const {
+    for (const auto& [words, line] : rows) {
+      EXPECT_EQ(Run(command + ' ' + words), Refused(line, code)) << words;
+    }
   }
   std::string File(const std::string& name) const { return ReadFile(folder_.Path(name)); }
   bool Has(const std::string& name) const { return std::filesystem::exists(folder_.Path(name)); }

@@ -1,15 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
-class Show : public QdfTest {
- protected:
-  Show() { folder_.Write("small.qdf", kSmallDocument); }
-};
+using Show = SmallDocumentTest;
 
 TEST_F(Show, TellsTheHeaderAndEachField) {
   const Outcome shown = Run("show small.qdf");

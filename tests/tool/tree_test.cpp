@@ -1,15 +1,13 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
-class Tree : public QdfTest {
- protected:
-  Tree() { folder_.Write("small.qdf", kSmallDocument); }
-};
+using testing::HasSubstr;
+
+using Tree = SmallDocumentTest;
 
 TEST_F(Tree, ShowsBothTreesWithNames) {
   EXPECT_EQ(Run("tree small.qdf"), (Outcome{0, R"(Control tree (default ink: 1 Photo Black)
@@ -44,11 +42,9 @@ Media source tree (default media source: 51 Tray)
 }
 
 TEST_F(Tree, CutsLongListsForPeopleOnly) {
-  const std::string text = RunTool({"tree", "plot36.qdf"}).out;
-  EXPECT_NE(text.find("Floyd 300x300 and 3 more\n"), std::string::npos);
-  EXPECT_EQ(text.find("SegmentedNew"), std::string::npos);
-  const std::string json = RunTool({"tree", "plot36.qdf", "--json"}).out;
-  EXPECT_NE(json.find("\"SegmentedNew\""), std::string::npos);
+  EXPECT_THAT(RunTool({"tree", "plot36.qdf"}).out,
+              AllOf(HasSubstr("Floyd 300x300 and 3 more\n"), Not(HasSubstr("SegmentedNew"))));
+  EXPECT_THAT(RunTool({"tree", "plot36.qdf", "--json"}).out, HasSubstr("\"SegmentedNew\""));
 }
 
 TEST_F(Tree, TellsProgramsTheSame) {

@@ -2,16 +2,11 @@
 #include <sys/stat.h>
 
 #include "tests/children.h"
-#include "tests/files.h"
 #include "tests/tool/document.h"
-#include "tests/tool/run.h"
 
 namespace {
 
-class QdfWrite : public QdfTest {
- protected:
-  QdfWrite() { folder_.Write("small.qdf", kSmallDocument); }
-};
+using QdfWrite = SmallDocumentTest;
 
 TEST_F(QdfWrite, TellsEachKindOfLossOnce) {
   EXPECT_EQ(Run("write small.qdf new.qdf"), (Outcome{0, R"(Document:  small.qdf
@@ -55,12 +50,13 @@ TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
   const std::pair<const char*, const char*> refusals[] = {
       {"no/new.qdf", "its folder isn't there"},    {"./", "it is a folder"},
       {"pipe", "it is no regular file"},           {"link", "the link leads nowhere"},
-      {"small.qdf/new", "its folder isn't there"},
+      {"small.qdf/new", "its folder isn't there"}, {"/dev/null", "it is no regular file"},
   };
   for (const auto& [out, reason] : refusals) {
     EXPECT_EQ(Run(std::string("write small.qdf ") + out),
               Refused(out + std::string(": it can't be saved: ") + reason));
   }
+  EXPECT_FALSE(Has("nowhere"));
 }
 
 TEST_F(QdfWrite, TakesAnEmptyNameForWrongUsage) {

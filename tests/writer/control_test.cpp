@@ -23,13 +23,6 @@ TEST(WriteControl, LevelsHaveOneForm) {
             "}}} Media(ID=11){PrintMode(ID=1)}}}");
 }
 
-// One combination whose ColorMode has these attributes and this content.
-std::string WithAttributes(const std::string& attributes, std::string_view content) {
-  std::string control = Control("[1[1[1[1[1]]]]]", content);
-  const std::string mode = "<ColorMode";
-  return control.replace(control.find(mode), mode.size(), Join({mode, attributes}, " "));
-}
-
 TEST(WriteControl, LeavesBecomeNames) {
   const struct {
     const char* attributes;
@@ -51,7 +44,8 @@ TEST(WriteControl, LeavesBecomeNames) {
               {"", "<DitherList SupportAll='1'><Dither Name='x'/></DitherList>",
                "ColorMode(ID=1){DitherList(SupportAll=0)}"}};
   for (const auto& row : rows) {
-    const auto document = Load({.Control = WithAttributes(row.attributes, row.content)});
+    const auto document =
+        Load({.Control = Control("[1[1[1[1[1]]]]]", row.content, row.attributes)});
     EXPECT_EQ(Part(Written(*document), "ColorMode"), row.expected);
   }
 }

@@ -1,5 +1,3 @@
-#include <clocale>
-
 #include "qdf/core/documentmembers.h"
 #include "tests/writer/written.h"
 
@@ -69,15 +67,6 @@ TEST(WriteDefinition, ListsHaveTheirElementsInOrder) {
       "Color(IsSpotColor=0){InternalName DisplayName ColorDepth=1}}}}"};
   EXPECT_EQ(Part(Written(*document), "Definition"),
             "Definition{" + Join({std::begin(parts), std::end(parts)}, " ") + "}");
-}
-
-TEST(WriteDefinition, NumbersIgnoreTheLocale) {
-  const auto document = LoadExample();
-  const std::string plain = Written(*document);
-  if (setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no locale with decimal commas";
-  const std::string written = Written(*document);
-  setlocale(LC_ALL, "C");
-  EXPECT_EQ(written, plain);
 }
 
 TEST(WriteDefinition, TranslatedNamesAreWrittenButForMedia) {
