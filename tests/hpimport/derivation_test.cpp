@@ -190,6 +190,12 @@ TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
     EXPECT_EQ(sizes, row.filled);
     EXPECT_EQ(Dump(members.ControlTreeRoot), "");
   }
+  Resources resources;
+  AddTo(resources, {});
+  APtrArray none;
+  APMQDF withoutInks;
+  EXPECT_EQ(withoutInks.LoadHPResourceInfo(resources, none, none), 0);
+  EXPECT_EQ(DocumentMembers(withoutInks).MediaList.GetSize(), 0);
 }
 
 // The sets overlap, and a set is met again when its child has grown by others.
