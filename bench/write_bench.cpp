@@ -1,7 +1,7 @@
-// Writing a document that was just loaded against what any writer of it pays: the printer alone,
-// saving a tree of the same content. What a load put off is part of the write. Each makes a new
-// file: what it costs to cut an old one off is the file system's affair, and only the printer does
-// it. The counter "ratio" is the quotient of the medians.
+// Writing a document against what any writer of it pays: the printer alone, saving a tree of the
+// same content. What the load put off is part of the first write. Each makes a new file: what it
+// costs to cut an old one off is the file system's affair, and only the printer does it. The
+// counter "ratio" is the quotient of the medians.
 
 #include <benchmark/benchmark.h>
 #include <unistd.h>
@@ -14,7 +14,7 @@
 
 namespace {
 
-void WriteAgainstPrinter(benchmark::State& state) {
+void WriteAgainstPrinter(benchmark::State& state, bool again) {
   const char* source = BenchDocument().c_str();
   const ScratchFile file;
   const ScratchFile printed;
@@ -29,6 +29,7 @@ void WriteAgainstPrinter(benchmark::State& state) {
   std::vector<double> prints;
   for (auto _ : state) {
     const std::unique_ptr<APMQDF> document = LoadDocument(source);
+    if (again) document->PMWriteQDF(path);
     unlink(file.Path());
     unlink(printed.Path());
     writes.push_back(Seconds([&] { document->PMWriteQDF(path); }));
@@ -37,6 +38,7 @@ void WriteAgainstPrinter(benchmark::State& state) {
   Compare(state, Median(writes), Median(prints), 2.5);
 }
 
-BENCHMARK(WriteAgainstPrinter)->Unit(benchmark::kMillisecond)->MinTime(2);
+BENCHMARK_CAPTURE(WriteAgainstPrinter, First, false)->Unit(benchmark::kMillisecond)->MinTime(2);
+BENCHMARK_CAPTURE(WriteAgainstPrinter, Again, true)->Unit(benchmark::kMillisecond)->MinTime(2);
 
 }  // namespace
