@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "qdf/control/deferreddithers.h"
 #include "qdf/core/apmqdf.h"
 #include "qdf/support/text.h"
 #include "qdf/writer/element.h"
@@ -90,7 +91,6 @@ void APMQDF::PMWriteControlPart(AXMLTree& tree) {
   if (ControlTreeRoot.Children.GetSize() == 0) return;
   const CQDFNode* ink = ChildAt(ControlTreeRoot, 0);
   if (ink == nullptr) return;
-  ReadDeferredDithers();
   Element section{tree, {}};
   if (tree.addItem(section.node, "Control_Definition", "") == 0) return;
   section.Add("Ink", [&](const Element& element) {
@@ -116,6 +116,7 @@ void APMQDF::WriteResolutionControlPart(AXMLTree& tree, AXMLTreeNode& element, C
 // Leaves behind the first two aren't written: the format has no place for them.
 void APMQDF::WriteColorModeControlPart(AXMLTree& tree, AXMLTreeNode& element, CQDFNode* node) {
   if (node == nullptr) return;
+  if (Dithers != nullptr) Dithers->Read(*node);
   const Element colorMode{tree, element};
   SetIDs(colorMode, *node);
   const AString* setting = NameAt(OEMInfoList, node->Default);
