@@ -149,7 +149,8 @@ class Kept {
   bool hasNegativeIDs_ = false;
 };
 
-// Loads it from a file, asks it everything and writes it, three times in a row.
+// Loads it from a file and writes it, three times in a row, and asks it everything. What is written
+// is the same whether the dithers were read before or not.
 inline void CheckDocument(std::string_view text) {
   std::string former;
   std::string formerMargins;
@@ -165,7 +166,10 @@ inline void CheckDocument(std::string_view text) {
     if (i > 0) RequireEqual(formerMargins, kept.Margins(), "the margins that a write keeps");
     former = kept.Text();
     formerMargins = kept.AnsweredMargins();
-    document->PMWriteQDF(file.Path());
+    MemoryFile whole;
+    document->PMWriteQDF(whole.Path());
+    LoadFile(static_cast<const char*>(file.Path()))->PMWriteQDF(file.Path());
+    RequireEqual(whole.Bytes(), file.Bytes(), "what is written with dithers that were read before");
     const bool settled = !kept.HasNegativeIDs() && kept.Margins() == kept.AnsweredMargins();
     if (i == 2 && settled) RequireEqual(bytes, file.Bytes(), "what is written again stays");
   }

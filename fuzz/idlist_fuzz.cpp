@@ -1,4 +1,4 @@
-// Id list texts against the algorithm as it is told. The first line of an input holds all ids, the
+// Id list texts against plain loops. The first line of an input holds all ids, the
 // rest is the text.
 
 #include "fuzz/fuzzing.h"

@@ -1,4 +1,4 @@
-// Any bytes as a translation table, against the algorithm as it is told: its pairs, and a document
+// Any bytes as a translation table, against a plain reader: its pairs, and a document
 // localised with it, which has their translations and all other names as they were.
 
 #include <map>
