@@ -1,17 +1,8 @@
 #include "qdf/control/deferreddithers.h"
 
-#include <cstdint>
 #include <utility>
 
 #include "qdf/support/hashmix.h"
-
-namespace {
-
-std::uint32_t HashOf(const CQDFNode& node) {
-  return static_cast<std::uint32_t>(MixHash(reinterpret_cast<std::uintptr_t>(&node)));
-}
-
-}  // namespace
 
 DeferredDithers::DeferredDithers(AStringArray& ditherNameList, APtrArray& ditherResolutionList)
     : names_(ditherNameList), records_(ditherResolutionList) {}
@@ -35,6 +26,7 @@ void DeferredDithers::Put(CQDFNode& colorMode, const AXMLTreeNode& element) {
   if (ownTree_ != nullptr) {
     entries_.push_back({&colorMode, element});
     ++unread_;
+    index_.Add(HashAddress(&colorMode), static_cast<int>(entries_.size() - 1));
   } else {
     Read(colorMode, element);
   }
@@ -42,17 +34,9 @@ void DeferredDithers::Put(CQDFNode& colorMode, const AXMLTreeNode& element) {
 
 void DeferredDithers::Read(const CQDFNode& colorMode) {
   if (entries_.empty()) return;
-  if (!index_) {
-    HashIndex index;
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-      const CQDFNode* node = entries_[i].colorMode;
-      if (node != nullptr) index.Add(HashOf(*node), static_cast<int>(i));
-    }
-    index_.emplace(std::move(index));
-  }
   const auto entryAt = [&](int i) -> Entry& { return entries_[static_cast<std::size_t>(i)]; };
   const auto isOfNode = [&](int i) { return entryAt(i).colorMode == &colorMode; };
-  const int found = index_->Find(HashOf(colorMode), isOfNode);
+  const int found = index_.Find(HashAddress(&colorMode), isOfNode);
   if (found >= 0) ReadNow(entryAt(found));
   EndTree();
 }
@@ -60,7 +44,7 @@ void DeferredDithers::Read(const CQDFNode& colorMode) {
 void DeferredDithers::ReadAll() {
   for (Entry& entry : entries_) ReadNow(entry);
   entries_.clear();
-  index_.reset();
+  index_.Clear();
   reader_.reset();
   ownTree_.reset();
 }

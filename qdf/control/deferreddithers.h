@@ -54,6 +54,6 @@ class DeferredDithers {
   std::unique_ptr<AXMLTree> ownTree_;
   std::optional<DitherListReader> reader_;
   std::vector<Entry> entries_;
-  std::size_t unread_ = 0;          // of the entries
-  std::optional<HashIndex> index_;  // of the entries, by their nodes; made when one is looked for
+  std::size_t unread_ = 0;  // of the entries
+  HashIndex index_;         // of the entries, by their nodes
 };

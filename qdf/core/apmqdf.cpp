@@ -94,6 +94,10 @@ DeferredDithers& APMQDF::ControlDithers() {
   return *Dithers;
 }
 
+void APMQDF::ReadDithersOf(const CQDFNode& colorMode) {
+  if (Dithers != nullptr) Dithers->Read(colorMode);
+}
+
 void APMQDF::ReadDeferredDithers() {
   if (Dithers != nullptr) Dithers->ReadAll();
 }

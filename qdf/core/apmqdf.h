@@ -160,7 +160,8 @@ class APMQDF_EXPORT APMQDF {
   void PMWriteQDF(AFilePath& path);
 
   // Appends a deep copy of what is in and under the source to the target, and sets the target's
-  // Default. False, and nothing changed, for a null source and when memory runs out.
+  // Default. False, and nothing changed, for a null source and when memory runs out. The target may
+  // be the source, but nothing below it.
   bool PMCopyMediaSourceTreeRoot(CQDFNode* source, CQDFNode* target);
 
  private:
@@ -174,8 +175,9 @@ class APMQDF_EXPORT APMQDF {
 
   const CQDFNode* FindControlPath(std::initializer_list<int> ids);
 
-  // To be called by whoever looks at the leaves of the control tree without FindColorModeNode,
-  // which reads those of the node that it answers.
+  // What a load put off, of one colour mode node or of all. To be called by whoever looks at their
+  // leaves; FindColorModeNode does so for the node that it answers.
+  void ReadDithersOf(const CQDFNode& colorMode);
   void ReadDeferredDithers();
   DeferredDithers& ControlDithers();
 

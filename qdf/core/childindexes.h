@@ -9,7 +9,7 @@
 #include "qdf/support/hashindex.h"
 
 // Of each node with many children, which child is the first to hold an id. It is made of a tree
-// that doesn't change any more.
+// that doesn't change any more but for the leaves below colour modes, which nobody looks for by id.
 class ChildIndexes {
  public:
   explicit ChildIndexes(const CQDFNode& root) { Add(root); }

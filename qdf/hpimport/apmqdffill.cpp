@@ -30,6 +30,7 @@ int APMQDF::LoadHPResourceInfo(APtrArray& resources, APtrArray& oldInks, APtrArr
   if (oldInks.GetSize() == 0) return 0;
   return Guarded(0, [&] {
     AppendCopies<InkTypeInfo>(InkList, oldInks);
+    ReadDeferredDithers();  // of a document that was loaded before: they have names in the lists
     ControlIndexes.reset();
     const bool complete = DeriveMediaList(resources, MediaList, oldMedia) != 0 &&
                           DerivePrintModeList(resources, PrintModeList) != 0 &&

@@ -9,14 +9,10 @@ namespace {
 // A look at so many ids costs no more than to remember the set.
 constexpr int kFewIDs = 8;
 
-std::uint32_t HashOf(const void* address) {
-  return static_cast<std::uint32_t>(MixHash(reinterpret_cast<std::uintptr_t>(address)));
-}
-
 }  // namespace
 
 GrowingTree::Holder* GrowingTree::HolderOf(const CQDFNode& parent, std::uint32_t id) {
-  const int at = holderIndex_.Find(HashOf(&parent) + id, [&](int i) {
+  const int at = holderIndex_.Find(HashAddress(&parent) + id, [&](int i) {
     const Holder& holder = holders_[static_cast<std::size_t>(i)];
     return holder.parent == &parent && holder.id == id;
   });
@@ -35,7 +31,7 @@ int GrowingTree::FirstWithAny(const CQDFNode& parent, const ADWordArray& ids) {
 bool GrowingTree::SetHolder(const CQDFNode& parent, std::uint32_t id, int child) {
   Holder* holder = HolderOf(parent, id);
   if (holder == nullptr) {
-    holderIndex_.Add(HashOf(&parent) + id, static_cast<int>(holders_.size()));
+    holderIndex_.Add(HashAddress(&parent) + id, static_cast<int>(holders_.size()));
     holders_.push_back({&parent, id, child});
     return true;
   }
@@ -46,7 +42,7 @@ bool GrowingTree::SetHolder(const CQDFNode& parent, std::uint32_t id, int child)
 }
 
 GrowingTree::Found* GrowingTree::FormerlyFound(const CQDFNode& parent, const ADWordArray& ids) {
-  const int at = foundIndex_.Find(HashOf(&parent) + HashOf(&ids), [&](int i) {
+  const int at = foundIndex_.Find(HashAddress(&parent) + HashAddress(&ids), [&](int i) {
     const Found& found = found_[static_cast<std::size_t>(i)];
     return found.parent == &parent && found.ids == &ids;
   });
@@ -58,7 +54,7 @@ void GrowingTree::Remember(const CQDFNode& parent, const ADWordArray& ids, int c
   if (former != nullptr) {
     *former = {&parent, &ids, child, moves_};
   } else {
-    foundIndex_.Add(HashOf(&parent) + HashOf(&ids), static_cast<int>(found_.size()));
+    foundIndex_.Add(HashAddress(&parent) + HashAddress(&ids), static_cast<int>(found_.size()));
     found_.push_back({&parent, &ids, child, moves_});
   }
 }

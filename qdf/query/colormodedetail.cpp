@@ -60,7 +60,7 @@ int APMQDF::FindColorModeNode(const int& ink, const int& media, const int& print
   return Guarded(0, [&] {
     const CQDFNode* found = FindControlPath({ink, media, printMode, resolution, colorMode});
     if (found == nullptr) return 0;
-    if (Dithers != nullptr) Dithers->Read(*found);
+    ReadDithersOf(*found);
     node = const_cast<CQDFNode*>(found);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     return 1;
   });

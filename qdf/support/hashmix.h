@@ -25,3 +25,7 @@ inline std::uint64_t MixHash(std::uint64_t value) {
   const Wide product = Wide{value ^ key} * (key | 1U);
   return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
 }
+
+inline std::uint32_t HashAddress(const void* address) {
+  return static_cast<std::uint32_t>(MixHash(reinterpret_cast<std::uintptr_t>(address)));
+}

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "qdf/control/deferreddithers.h"
 #include "qdf/core/apmqdf.h"
 #include "qdf/support/text.h"
 #include "qdf/writer/element.h"
@@ -116,7 +115,7 @@ void APMQDF::WriteResolutionControlPart(AXMLTree& tree, AXMLTreeNode& element, C
 // Leaves behind the first two aren't written: the format has no place for them.
 void APMQDF::WriteColorModeControlPart(AXMLTree& tree, AXMLTreeNode& element, CQDFNode* node) {
   if (node == nullptr) return;
-  if (Dithers != nullptr) Dithers->Read(*node);
+  ReadDithersOf(*node);
   const Element colorMode{tree, element};
   SetIDs(colorMode, *node);
   const AString* setting = NameAt(OEMInfoList, node->Default);

@@ -59,6 +59,18 @@ TEST(DeferredDithers, RepeatOnlyWhatIsTheSame) {
   }
 }
 
+TEST(DeferredDithers, OfInksThatAWriteLeavesOutAreAnsweredAfterIt) {
+  std::string control = Control("[1[1[1[1[1]]]];2[1[1[1[1]]]]]", kDithers);
+  control.replace(control.rfind("600x300"), 7, "72");
+  const auto document = Load({.InkList = Entries("1;2"), .Control = control});
+  const TempFolder folder;
+  AFilePath path(folder.Path("written").c_str());
+  document->PMWriteQDF(path);
+  EXPECT_NE(ReadFile(folder.Path("written")).find("<Dither Name=\"E\""), std::string::npos);
+  EXPECT_EQ(Dithers(*document, {2, 1, 1, 1, 1}), "d|e 72x72");
+  EXPECT_EQ(Dithers(*document, {1, 1, 1, 1, 1}), "d|e 600x300");
+}
+
 // So many inks that a search takes an index, which the second file adds to.
 TEST(DeferredDithers, OfBothFilesAreAnsweredAfterASecondLoad) {
   std::string inks = "1";

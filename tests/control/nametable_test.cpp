@@ -10,7 +10,6 @@
 
 namespace {
 
-// The names in the list, and what the node refers to.
 TEST(NameTable, HelpersDifferInCaseEmptyTextsAndWhatTheySet) {
   using Helper = void (*)(CQDFNode*, AString&, AStringArray&);
   const Helper asDefault = InternDefaultString;
@@ -23,7 +22,7 @@ TEST(NameTable, HelpersDifferInCaseEmptyTextsAndWhatTheySet) {
     const char* what;
     Helper helper;
     const char* text;
-    const char* state;
+    const char* state;  // the names in the list, and what the node refers to
   } rows[] = {{"default", asDefault, "ONE", "One|two 7"},
               {"default", asDefault, " one", "One|two| one 7>2"},
               {"default", asDefault, "", "One|two| 7>2"},
