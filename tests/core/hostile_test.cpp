@@ -130,8 +130,8 @@ TEST(Hostile, NestingBeyondAnyStack) {
     for (const char* name : {"Ink", "Media", "QDF_Info", "ColorantList", "InkList"}) {
       const std::string open = "<" + std::string(name) + " ID='1'>";
       const std::string close = "</" + std::string(name) + ">";
-      const std::string deep =
-          Repeated(many, [&](int) { return open; }) + Repeated(many, [&](int) { return close; });
+      const std::string deep = Repeated(4 * many, [&](int) { return open; }) +
+                               Repeated(4 * many, [&](int) { return close; });
       const auto document =
           Load({.InkList = Entries("1", deep),
                 .Definition = deep,

@@ -53,6 +53,19 @@ TEST_F(NoMemory, LoadsGiveNothing) {
     APMQDF document;
     EXPECT_TRUE(attempt.FailsWhenRefused([&] { return document.LoadQDFFile(path); }));
   });
+  std::vector<std::string> ids;
+  for (int id = 1; id <= 100; ++id) ids.push_back(std::to_string(id));
+  const DocumentText manyMedia{.MediaList = Entries(Join(ids, ";")),
+                               .Control = Control("[1[" + Join(ids, "[1[1[1]]];") + "[1[1[1]]]]]")};
+  AFilePath manyPath(Folder().Write("many.qdf", manyMedia.Text()).c_str());
+  WithEveryAllocation("load of a node with an index", [&](Attempt& attempt) {
+    APMQDF document;
+    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return document.LoadQDFFile(manyPath); }));
+    std::vector<PrintModeInfo> modes;
+    int at = 0;
+    const int found = document.GetPrintModeList(1, 99, modes, at);
+    EXPECT_TRUE(attempt.Refused() || found == 1);
+  });
   WithEveryAllocation("load of a tree", [&](Attempt& attempt) {
     AXMLTree tree("RootElement");
     EXPECT_TRUE(attempt.FailsWhenRefused([&] { return tree.loadFromFile(path, 1); }));

@@ -57,7 +57,8 @@ Media folders (8)
   EXPECT_EQ(report["media"][3]["sound"], false);
   EXPECT_EQ(report["deleted"], 7);
   EXPECT_EQ(report["left"], nlohmann::json::array());
-  EXPECT_TRUE(Has("Good") && Has("output_icc") && !Has("Old") && !Has("Empty"));
+  EXPECT_TRUE(Has("Good/best/Good_best.xml") && Has("output_icc/p.icc"));
+  EXPECT_FALSE(Has("Old") || Has("Empty"));
 }
 
 TEST_F(QdfSweep, DeletesNothingWithoutAYes) {
