@@ -18,6 +18,8 @@ std::string Repeated(int count, const std::function<std::string(int)>& piece) {
   return text;
 }
 
+std::size_t Size(int count) { return static_cast<std::size_t>(count); }
+
 // Asks every question with one id at all levels, and answers how much came back.
 std::size_t AskAll(APMQDF& document, const int id) {
   using D = APMQDF;
@@ -73,7 +75,7 @@ TEST(Hostile, ListsOfManyEntries) {
               .Control = Control(">7[ALL[-(7)[ALL[ALL[ALL]]]]]"),
               .SourceControl = SourceControl("[ALL[ALL[ALL]]]")});
     ASSERT_NE(document, nullptr);
-    EXPECT_EQ(AskAll(*document, 14), 8U * many - 1);
+    EXPECT_EQ(AskAll(*document, 14), 8 * Size(many) - 1);
   });
 }
 
@@ -98,7 +100,7 @@ TEST(Hostile, ManyNodesNamesAndAttributes) {
                                 .Control = control,
                                 .SourceControl = SourceControl("[" + nodes("1") + list + "]")});
     ASSERT_NE(document, nullptr);
-    EXPECT_EQ(AskAll(*document, 1), 5U + many + many);
+    EXPECT_EQ(AskAll(*document, 1), 5 + 2 * Size(many));
   });
 }
 
@@ -121,7 +123,7 @@ TEST(Hostile, NamesMadeToMeet) {
         Load({.Control = Control("[1[1[1[1[1]]]]]",
                                  profiles + "<DitherList>" + dithers + "</DitherList>")});
     ASSERT_NE(document, nullptr);
-    EXPECT_EQ(AskAll(*document, 1), 5U + many + 1);
+    EXPECT_EQ(AskAll(*document, 1), 5 + Size(many) + 1);
   });
 }
 
@@ -145,7 +147,7 @@ TEST(Hostile, NestingBeyondAnyStack) {
 
 TEST(Hostile, TextsOfMegabytes) {
   ExpectGrowthWithSize([](const int many) {
-    const std::string longText(40 * static_cast<std::size_t>(many), '7');
+    const std::string longText(40 * Size(many), '7');
     const std::string list = Repeated(10 * many, [&](int) { return std::string("1,("); });
     std::string control = Control(
         "[" + list + "[" + longText + "[1[1[1]]]]]",
