@@ -6,6 +6,9 @@ namespace {
 
 constexpr int kMany = 64;
 
+// Inks, media, print modes and resolutions: the nodes below which somebody looks for an id.
+constexpr int kParentLevels = 4;
+
 void IndexChildren(const CQDFNode& parent, HashIndex& index) {
   IDSet seen;
   for (int i = 0; i < parent.Children.GetSize(); ++i) {
@@ -19,11 +22,13 @@ void IndexChildren(const CQDFNode& parent, HashIndex& index) {
 
 }  // namespace
 
-void ChildIndexes::Add(const CQDFNode& node) {
+ChildIndexes::ChildIndexes(const CQDFNode& root) { Add(root, kParentLevels); }
+
+void ChildIndexes::Add(const CQDFNode& node, int levelsBelow) {
   const int count = node.Children.GetSize();
   if (count >= kMany) IndexChildren(node, indexes_[&node]);
-  for (int i = 0; i < count; ++i) {
-    if (const CQDFNode* child = ChildAt(node, i)) Add(*child);
+  for (int i = 0; i < count && levelsBelow > 0; ++i) {
+    if (const CQDFNode* child = ChildAt(node, i)) Add(*child, levelsBelow - 1);
   }
 }
 

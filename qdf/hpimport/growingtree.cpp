@@ -2,12 +2,23 @@
 
 #include <algorithm>
 
+#include "qdf/hpimport/derivecontroltree.h"
 #include "qdf/support/hashmix.h"
 
 namespace {
 
-// A look at so many ids costs no more than to remember the set.
+// A look at so many ids costs no more than to remember them.
 constexpr int kFewIDs = 8;
+
+// Such a parent isn't in the index. What has grown beyond this never comes back to it.
+bool HasFewIDs(const CQDFNode& parent) {
+  const int children = parent.Children.GetSize();
+  int ids = 0;
+  for (int i = 0; i < children && children <= kFewIDs && ids <= kFewIDs; ++i) {
+    ids += ChildAt(parent, i)->IDs.GetSize();
+  }
+  return children <= kFewIDs && ids <= kFewIDs;
+}
 
 }  // namespace
 
@@ -59,7 +70,20 @@ void GrowingTree::Remember(const CQDFNode& parent, const ADWordArray& ids, int c
   }
 }
 
+void GrowingTree::IndexChildren(const CQDFNode& parent) {
+  for (int i = 0; i < parent.Children.GetSize(); ++i) {
+    for (const std::uint32_t id : ChildAt(parent, i)->IDs) {
+      if (HolderOf(parent, id) == nullptr) SetHolder(parent, id, i);
+    }
+  }
+}
+
 CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
+  if (HasFewIDs(parent)) {
+    CQDFNode& child = *::FindOrAddChild(&parent, ids);
+    if (!HasFewIDs(parent)) IndexChildren(parent);
+    return child;
+  }
   const bool isLarge = ids.GetSize() > kFewIDs;
   const Found* former = isLarge ? FormerlyFound(parent, ids) : nullptr;
   // Without a move since then, the same child is still the first and holds all the ids.

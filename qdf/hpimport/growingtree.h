@@ -36,6 +36,8 @@ class GrowingTree {
   int FirstWithAny(const CQDFNode& parent, const ADWordArray& ids);
   // False when the child is its holder already.
   bool SetHolder(const CQDFNode& parent, std::uint32_t id, int child);
+  // Makes the ids known of a parent whose children were walked until now.
+  void IndexChildren(const CQDFNode& parent);
 
   std::vector<Holder> holders_;
   HashIndex holderIndex_;

@@ -1,10 +1,10 @@
 #pragma once
 
 // How the derivation finds a record again: by a key, which is equal for records that count as the
-// same one. Keys hold no texts of their own, they point into records. Names count with their first
-// 256 characters, as many as the fields of a record hold.
+// same one. Names count with their first 256 characters, as many as the fields of a record hold.
 
 #include <cstdint>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
@@ -14,11 +14,16 @@
 // As much of a text as a name field holds.
 std::string_view FieldPart(const AString& text);
 
+// Keys hold no texts of their own, they point into records. KeepTexts has a key point to copies
+// that live as long as the memory which it is given.
+using KeyTexts = std::pmr::monotonic_buffer_resource;
+
 struct NameKey {
   std::string_view name;
 
   bool operator==(const NameKey&) const = default;
   std::uint32_t Hash() const;
+  void KeepTexts(KeyTexts& texts);
 };
 
 struct MediaKey {
@@ -27,6 +32,7 @@ struct MediaKey {
 
   bool operator==(const MediaKey&) const = default;
   std::uint32_t Hash() const;
+  void KeepTexts(KeyTexts& texts);
 };
 
 // The quality's name counts without its case.
@@ -36,6 +42,7 @@ struct PrintModeKey {
 
   bool operator==(const PrintModeKey& other) const;
   std::uint32_t Hash() const;
+  void KeepTexts(KeyTexts& texts);
 };
 
 // Two that aren't numbers are never equal.
@@ -46,9 +53,11 @@ struct ResolutionKey {
 
   bool operator==(const ResolutionKey&) const = default;
   std::uint32_t Hash() const;
+  void KeepTexts(KeyTexts& texts);
 };
 
-// Finds keys without walking them. They are numbered from 0 by their addition.
+// Finds keys without walking them. They are numbered from 0 by their addition. Their texts stand
+// close together: a look-up that went to the wide records would wait for memory each time.
 template <class Key>
 class KeyIndex {
  public:
@@ -66,6 +75,7 @@ class KeyIndex {
     if (known >= 0) return {known, false};
     const int added = static_cast<int>(keys_.size());
     keys_.push_back(key);
+    keys_.back().KeepTexts(texts_);
     // What equals nothing can't be found, and many of the kind would lie in each other's way.
     if (IsEqual(key, key)) index_.Add(hash, added);
     return {added, true};
@@ -80,6 +90,7 @@ class KeyIndex {
                        [&](int i) { return IsEqual(keys_[static_cast<std::size_t>(i)], key); });
   }
 
+  KeyTexts texts_;
   std::vector<Key> keys_;
   HashIndex index_;
 };
