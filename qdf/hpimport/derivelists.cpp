@@ -22,22 +22,17 @@ constexpr std::array<std::string_view, 6> kQualities = {"PREMIUM", "SUPERBEST", 
 
 int HoldsAny(const APtrArray& list) { return list.GetSize() > 0 ? 1 : 0; }
 
-using MediaRecords = std::vector<std::unique_ptr<MediaTypeInfo>>;
-
-// Each media once; the record of a key has the key's number.
-struct Media {
-  KeyIndex<MediaKey> keys;
-  MediaRecords records;
+struct MediaEntry {
+  int isCustomizable;
+  int id = 0;
 };
 
-std::unique_ptr<MediaTypeInfo> MakeMedia(const MediaKey& key, int isCustomizable) {
-  auto record = std::make_unique<MediaTypeInfo>();
-  SetField(record->InternalName, key.internalName);
-  SetField(record->DisplayName, key.unlocalizedName);
-  SetField(record->UnlocalizedName, key.unlocalizedName);
-  record->IsCustomizableMedia = isCustomizable;
-  return record;
-}
+// Each media once; the entry of a key has the key's number. The records are made when all is known:
+// they are so large that each walk over them takes time.
+struct Media {
+  KeyIndex<MediaKey> keys;
+  std::vector<MediaEntry> entries;
+};
 
 void CollectMedia(const APtrArray& resources, Media& media) {
   ForEachRecord<HPResourceInfo>(resources, [&](const HPResourceInfo& resource) {
@@ -45,7 +40,7 @@ void CollectMedia(const APtrArray& resources, Media& media) {
     for (int i = 0; i < resource.DisplayNames.GetSize(); ++i) {
       const MediaKey key{internalName, FieldPart(resource.DisplayNames.ElementAt(i))};
       if (!media.keys.FindOrAdd(key).isNew) continue;
-      media.records.push_back(MakeMedia(key, resource.IsCustomizableMedia));
+      media.entries.push_back({resource.IsCustomizableMedia});
     }
   });
 }
@@ -53,55 +48,68 @@ void CollectMedia(const APtrArray& resources, Media& media) {
 // The last id that each kind of media has.
 class MediaCounters {
  public:
-  int& Of(const MediaTypeInfo& media) {
-    return media.IsCustomizableMedia != 0 ? customizable_ : plain_;
-  }
+  int& Of(const MediaEntry& entry) { return entry.isCustomizable != 0 ? customizable_ : plain_; }
 
  private:
   int plain_ = 0;
   int customizable_ = 10000;
 };
 
-void KeepOldIDs(const Media& media, const APtrArray& oldMedia, MediaCounters& counters) {
-  std::vector<bool> isKept(media.records.size());
+void KeepOldIDs(Media& media, const APtrArray& oldMedia, MediaCounters& counters) {
+  std::vector<bool> isKept(media.entries.size());
   ForEachRecord<MediaTypeInfo>(oldMedia, [&](const MediaTypeInfo& old) {
     const int found =
         media.keys.Find({FieldText(old.InternalName), FieldText(old.UnlocalizedName)});
     const auto at = static_cast<std::size_t>(found);
     if (found < 0 || isKept[at]) return;  // the first of equal ones counts
     isKept[at] = true;
-    media.records[at]->ID = old.ID;
-    int& counter = counters.Of(*media.records[at]);
+    media.entries[at].id = old.ID;
+    int& counter = counters.Of(media.entries[at]);
     counter = std::max(counter, old.ID);
   });
 }
 
 // False when there is no number above the last one.
-bool GiveNewIDs(const MediaRecords& media, MediaCounters& counters) {
-  for (const auto& record : media) {
-    if (record->ID != 0) continue;
-    int& counter = counters.Of(*record);
+bool GiveNewIDs(Media& media, MediaCounters& counters) {
+  for (MediaEntry& entry : media.entries) {
+    if (entry.id != 0) continue;
+    int& counter = counters.Of(entry);
     if (counter == std::numeric_limits<int>::max()) return false;
-    record->ID = ++counter;
+    entry.id = ++counter;
   }
   return true;
 }
 
+std::unique_ptr<MediaTypeInfo> MakeRecord(const MediaKey& key, const MediaEntry& entry) {
+  auto record = std::make_unique<MediaTypeInfo>();
+  record->ID = entry.id;
+  SetField(record->InternalName, key.internalName);
+  SetField(record->DisplayName, key.unlocalizedName);
+  SetField(record->UnlocalizedName, key.unlocalizedName);
+  record->IsCustomizableMedia = entry.isCustomizable;
+  return record;
+}
+
 // Each goes ahead of the first record with a greater id.
-void InsertByID(MediaRecords media, APtrArray& list) {
+void InsertByID(const Media& media, APtrArray& list) {
+  std::vector<std::unique_ptr<MediaTypeInfo>> added;
   std::vector<std::pair<int, MediaTypeInfo*>> sorted;
-  sorted.reserve(static_cast<std::size_t>(list.GetSize()) + media.size());
+  added.reserve(media.entries.size());
+  sorted.reserve(static_cast<std::size_t>(list.GetSize()) + media.entries.size());
   for (int i = 0; i < list.GetSize(); ++i) {
     auto* record = static_cast<MediaTypeInfo*>(list.GetAt(i));
     sorted.emplace_back(record->ID, record);
   }
-  for (const auto& record : media) sorted.emplace_back(record->ID, record.get());
+  for (std::size_t i = 0; i < media.entries.size(); ++i) {
+    added.push_back(MakeRecord(media.keys[i], media.entries[i]));
+    sorted.emplace_back(media.entries[i].id, added.back().get());
+  }
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
   list.SetSize(static_cast<int>(sorted.size()), -1);
   for (int i = 0; i < list.GetSize(); ++i) list[i] = sorted[static_cast<std::size_t>(i)].second;
   // The list's from here on.
-  for (auto& record : media) static_cast<void>(record.release());
+  for (auto& record : added) static_cast<void>(record.release());
 }
 
 // The position of a quality folder's quality among them, -1 when its name begins with none.
@@ -142,8 +150,8 @@ int DeriveMediaList(APtrArray& resources, APtrArray& mediaList, APtrArray& oldMe
   CollectMedia(resources, media);
   MediaCounters counters;
   KeepOldIDs(media, oldMedia, counters);
-  if (!GiveNewIDs(media.records, counters)) return 0;
-  InsertByID(std::move(media.records), mediaList);
+  if (!GiveNewIDs(media, counters)) return 0;
+  InsertByID(media, mediaList);
   return HoldsAny(mediaList);
 }
 

@@ -3,6 +3,7 @@
 // How the derivation finds a record again: by a key, which is equal for records that count as the
 // same one. Names count with their first 256 characters, as many as the fields of a record hold.
 
+#include <cstddef>
 #include <cstdint>
 #include <memory_resource>
 #include <string_view>
@@ -63,6 +64,8 @@ class KeyIndex {
  public:
   // The number of the equal key, -1 when there is none.
   int Find(const Key& key) const { return Find(key, key.Hash()); }
+
+  const Key& operator[](std::size_t number) const { return keys_[number]; }
 
   struct Place {
     int number;
