@@ -198,23 +198,25 @@ TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
   EXPECT_EQ(DocumentMembers(withoutInks).MediaList.GetSize(), 0);
 }
 
-// The sets overlap, and a set is met again when its child has grown by others.
+// The sets overlap, some are small, and a set is met again when its child has grown by others.
 TEST(DeriveTree, GrowsFastAsAWalkDoes) {
   std::minstd_rand random(7);
-  std::vector<ADWordArray> sets(40);
-  for (ADWordArray& ids : sets) {
-    for (auto count = random() % 14; count > 0; --count) {
-      ids.Add(static_cast<std::uint32_t>(random() % 200));
+  for (int tree = 0; tree < 200; ++tree) {
+    std::vector<ADWordArray> sets(12);
+    for (ADWordArray& ids : sets) {
+      for (auto count = random() % (tree % 2 == 0 ? 3 : 14); count > 0; --count) {
+        ids.Add(static_cast<std::uint32_t>(random() % 40));
+      }
     }
-  }
-  CQDFNode walked;
-  CQDFNode grown;
-  GrowingTree tree;
-  for (int i = 0; i < 400; ++i) {
-    ADWordArray& ids = sets[random() % sets.size()];
-    FindOrAddChild(FindOrAddChild(&walked, ids), ids);
-    tree.FindOrAddChild(tree.FindOrAddChild(grown, ids), ids);
-    ASSERT_EQ(Dump(grown), Dump(walked)) << i;
+    CQDFNode walked;
+    CQDFNode grown;
+    GrowingTree growing;
+    for (int i = 0; i < 60; ++i) {
+      ADWordArray& ids = sets[random() % sets.size()];
+      FindOrAddChild(FindOrAddChild(&walked, ids), ids);
+      growing.FindOrAddChild(growing.FindOrAddChild(grown, ids), ids);
+      ASSERT_EQ(Dump(grown), Dump(walked)) << tree << ' ' << i;
+    }
   }
 }
 
