@@ -43,27 +43,31 @@ void ReadAsRecords(std::string_view bytes) {
 void WriteAndRead(Choices choose) {
   const bool skips = choose.Chance(2);
   AString text(choose.Text(50).c_str());
-  ANewColorOpt option;
+  ANewColorOpt options[2];
   // An odd number of bytes, over and over, so that neighbours differ.
   const std::string pattern(choose.Bytes(31));
-  for (std::size_t i = 0; i < sizeof option && !pattern.empty(); ++i)
-    reinterpret_cast<char*>(&option)[i] = pattern[i % pattern.size()];
+  for (std::size_t i = 0; i < sizeof options && !pattern.empty(); ++i)
+    reinterpret_cast<char*>(options)[i] = pattern[i % pattern.size()];
   std::string former;
   for (int i = 0; i < 2; ++i) {
     MemoryFile file;
     AArchive writing(file.Path(), Direction::Writing);
     writing.TagStart().Tag(1) << text;
-    writing.Tag(2) << option;
-    writing.TagEnd() << option;
+    writing.Tag(2) << options[0];
+    writing.TagEnd() << options[1];
     Require(writing.Close() != 0, "an archive is saved");
     if (i > 0) RequireEqual(former, file.Bytes(), "what was read is written again");
     former = file.Bytes();
     AArchive reading(file.Path(), Direction::Reading);
+    AString textRead(skips ? text : "");
+    ANewColorOpt read[2];
     reading.TagStart();
-    if (!skips) reading.Tag(1) >> text;
-    reading.Tag(2) >> option;
-    reading.TagEnd() >> option;
+    if (!skips) reading.Tag(1) >> textRead;
+    reading.Tag(2) >> read[0];
+    reading.TagEnd() >> read[1];
     Require(reading.AtEnd() != 0 && reading.IsDamaged() == 0, "all of it is read");
+    Require(text == textRead, "a text");
+    for (int record = 0; record < 2; ++record) options[record] = read[record];
   }
 }
 
