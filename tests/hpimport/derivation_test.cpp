@@ -2,8 +2,6 @@
 
 #include <limits>
 
-#include "qdf/hpimport/derivecolormodes.h"
-#include "qdf/hpimport/derivelists.h"
 #include "tests/hpimport/derived.h"
 #include "tests/hpimport/resources.h"
 
@@ -121,21 +119,19 @@ TEST(DeriveColorModes, AreMadeOnceForALayoutAndADepth) {
   EXPECT_EQ(All({{.format = "kcmy"}, {.format = "CMYK"}, {.format = ""}, {}}).colorModes, first);
 }
 
-TEST(Derive, CountsWhatAListHoldsAlready) {
+TEST(Derivation, CountsWhatTheListsHoldAlready) {
   Resources resources;
   AddTo(resources, {});
-  APtrArray none;
-  OwnedItems<MediaTypeInfo> media;
-  OwnedItems<ResolutionInfo> resolutions;
-  OwnedItems<ColorModeInfo> colorModes;
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(DeriveMediaList(resources, media, none), 1);
-    EXPECT_EQ(DeriveResolutionList(resources, resolutions), 1);
-    EXPECT_EQ(DeriveColorModeList(resources, colorModes), 1);
-  }
-  EXPECT_EQ(DumpMedia(media), "1=Glossy/Gloss;1=Glossy/Gloss");
-  EXPECT_EQ(resolutions.GetSize(), 1);
-  EXPECT_EQ(colorModes.GetSize(), 2);
+  const auto previous = Load({});
+  DocumentMembers former(*previous);
+  APMQDF document;
+  for (int i = 0; i < 2; ++i)
+    EXPECT_EQ(document.LoadHPResourceInfo(resources, former.InkList, former.MediaList), 1);
+  const Derived derived{DocumentMembers(document)};
+  EXPECT_EQ(derived.media, "1=Glossy/Gloss;1=Glossy/Gloss");
+  EXPECT_EQ(derived.resolutions, "1=600/600x600");
+  EXPECT_EQ(derived.colorModes,
+            "1=CMYK/No(Cyan 2,Magenta 2,Yellow 2,Black 1);2=Gray Scale/Yes(Gray 1)");
 }
 
 TEST(DeriveTree, GivesEachResourceAPath) {
