@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "qdf/control/ditherlist.h"
 #include "qdf/control/readers.h"
 #include "qdf/core/documentmembers.h"
 #include "qdf/support/ownership.h"
@@ -104,28 +103,6 @@ TEST(ControlTree, TakesDithersAndTheirResolutions) {
   EXPECT_EQ(Join(records, "; "),
             "Fast 720.2x360 of 0,1; fast 600x600 of 0,1; Fast 720.2x360 of 2; " + d63 +
                 "a 1x1 of 3,4; " + d63 + " 1x1 of 3,4");
-}
-
-// Alone, on lists that others have filled.
-TEST(ControlTree, DitherListsAppend) {
-  const auto tree =
-      TreeOf("<DitherList><Dither Name='b' RipResolution='2'/><Dither Name='a'/></DitherList>");
-  AXMLTreeNode list;
-  ASSERT_NE(tree->getRootNode(list), 0);
-  CQDFNode dithers;
-  CQDFNode resolutions;
-  AStringArray names;
-  names.Add("a");
-  OwnedItems<DitherResolutionInfo> records;
-  const auto read = [&](const char* preselected) {
-    ReadDitherList(&dithers, &resolutions, tree.get(), list, names, records, preselected);
-    EXPECT_EQ(Dump(dithers) + " " + Dump(resolutions) + " " + Dump(names), "1,0 0 a|b");
-    EXPECT_EQ(records.GetSize(), 1);
-  };
-  read(" a ");
-  read(" a ");
-  resolutions.IDs.SetSize(0, -1);  // a record that only its list knows
-  read("");
 }
 
 TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
