@@ -17,7 +17,6 @@
 #include <string_view>
 
 #include "qdf/support/afilepath.h"
-#include "qdf/support/text.h"
 #include "tests/files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -42,16 +41,6 @@ inline std::string TakeLine(std::string_view& text) {
   const std::string line(piece.substr(0, std::min(piece.find('\n'), piece.size() - 1) + 1));
   text.remove_prefix(line.size());
   return line.c_str();
-}
-
-// Cuts what stands before the mark, and the mark, off the text and trims both; false without a mark
-// or with the mark in first place.
-inline bool CutAt(char mark, std::string& before, std::string& text) {
-  const std::size_t at = text.find(mark);
-  if (at == std::string::npos || at == 0) return false;
-  before = Trimmed(text.substr(0, at));
-  text = std::string(Trimmed(text.substr(at + 1)));
-  return true;
 }
 
 // A regular file without a disk behind it.

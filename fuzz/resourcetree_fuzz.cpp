@@ -1,14 +1,13 @@
 // HP resource trees made from choices, with files and links that are no resources: what is derived
-// from one is a document like any other, and a sweep of it deletes unsound media folders, those
-// only, and nothing outside the tree.
+// from one is a document like any other, and a sweep of it deletes the media folders that are found
+// unsound, those only, and nothing outside the tree.
 
 #include <filesystem>
 
 #include "fuzz/documentproperties.h"
-#include "qdf/hpimport/resourcename.h"
 #include "qdf/hpimport/sweep.h"
+#include "qdf/hpimport/sweepverdict.h"
 #include "qdf/hpimport/update.h"
-#include "qdf/support/axmltree.h"
 
 namespace fs = std::filesystem;
 
@@ -75,30 +74,6 @@ std::string Listed(const std::string& folder, IsGone isGone) {
   return Join(paths, "\n");
 }
 
-bool IsSoundQuality(const fs::path& folder) {
-  bool hasResource = false;
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.is_symlink()) continue;
-    if (entry.is_directory()) return false;
-    if (!FindResourceName(entry.path().string())) continue;
-    AXMLTree tree("RootElement");
-    AFilePath path(entry.path().c_str());
-    AXMLTreeNode root;
-    if (tree.loadFromFile(path, 1) == 0 || tree.getRootNode(root) == 0) return false;
-    const double release = ReadDouble(tree.attributeText(root, "release"));
-    if (!(release >= 2 && release < 3)) return false;
-    hasResource = true;
-  }
-  return hasResource;
-}
-
-bool IsSoundMedia(const fs::path& folder) {
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.is_symlink() || !entry.is_directory() || !IsSoundQuality(entry.path())) return false;
-  }
-  return !fs::is_empty(folder);
-}
-
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -119,7 +94,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   }
   const std::string top = fs::path(folder.Path("tree")).string();
   const std::string expected = Listed(folder.Path(), [&](const fs::path& path) {
-    return path.parent_path() == top && path.filename() != "output_icc" && !IsSoundMedia(path);
+    return path.parent_path() == top && path.filename() != "output_icc" &&
+           CheckHPFolder(path.c_str(), 1) != 0;
   });
   PMCheckHPXMLVersion(tree);
   RequireEqual(expected, Listed(folder.Path(), [](const fs::path&) { return false; }),

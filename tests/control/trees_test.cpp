@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "qdf/control/ditherlist.h"
 #include "qdf/control/readers.h"
 #include "qdf/core/documentmembers.h"
 #include "qdf/support/ownership.h"
@@ -15,34 +14,23 @@
 
 namespace {
 
-// The names of a document's leaves and its control tree without what stands above colour modes.
-struct ControlTree {
-  explicit ControlTree(const DocumentText& text) : document(Load(text)) {
-    const DocumentMembers members(*document);
-    tree = Dump(members.ControlTreeRoot);
-    profiles = Dump(members.ICCProfileList);
-    settings = Dump(members.OEMInfoList);
-    dithers = Dump(members.DitherNameList);
-    for (const auto& record : Records<DitherResolutionInfo>(members.DitherResolutionList)) {
-      records += Str(record.Name) + " " + std::to_string(record.XResolution) + " " +
-                 std::to_string(record.YResolution) + ";";
-      owners.push_back(record.OwnerNode);
-    }
-  }
-
-  std::unique_ptr<APMQDF> document;
-  std::string tree, profiles, settings, dithers, records;
-  std::vector<CQDFNode*> owners;
-};
-
-// A document with the colour modes on one path.
-ControlTree OnePath(const std::string& colorModes) {
-  return ControlTree({.ColorModeList = ColorModes("1;2;3"),
-                      .Control = "<Control_Definition><Ink ID='1'><Media ID='1'><PrintMode ID='1'>"
-                                 "<Resolution ID='1'>" +
-                                 colorModes +
-                                 "</Resolution></PrintMode></Media></Ink></Control_Definition>"});
+std::string ControlTreeOf(const DocumentText& text) {
+  return Dump(DocumentMembers(*Load(text)).ControlTreeRoot);
 }
+
+// The colour modes on one path: their nodes and the names that those refer to.
+struct OnePath {
+  explicit OnePath(const std::string& colorModes)
+      : document(Load({.ColorModeList = ColorModes("1;2;3"),
+                       .Control = Replaced(Control("[1[1[1[1[1]]]]]"), kColorMode, colorModes)})),
+        members(*document),
+        tree(Dump(members.ControlTreeRoot)) {}
+
+  static constexpr const char* kColorMode = "<ColorMode ID=\"1\"></ColorMode>";
+  std::unique_ptr<APMQDF> document;
+  DocumentMembers members;
+  std::string tree;
+};
 
 std::string Under(const std::string& colorModes) { return "[1[1[1[1[" + colorModes + "]]]]]"; }
 
@@ -60,16 +48,18 @@ TEST(ControlTree, KeepsWhatTheListsKnow) {
        "<PrintMode ID='1'/><Media ID='ALL' DefaultPrintMode='4'><PrintMode ID='1' "
        "DefaultResolution='99999999999'><Resolution ID='(1)' DefaultColorMode='1'><Media ID='10'/>"
        "<ColorMode ID='7'/></Resolution></PrintMode></Media></Ink></Control_Definition>",
-       "[2,0>11[12,10,11>4[1>2147483647[1>1]]]]"}};
+       "[2,0>11[12,11,10>4[1>2147483647[1>1]]]]"}};
   for (const auto& [control, tree] : rows) {
-    const ControlTree read(
-        {.InkList = Entries("1;2;0"), .MediaList = Entries("10=b;11=c;12=a"), .Control = control});
-    EXPECT_EQ(read.tree, tree) << control;
+    EXPECT_EQ(ControlTreeOf({.InkList = Entries("1;2;0"),
+                             .MediaList = Entries("10=b;11=b;12=a"),
+                             .Control = control}),
+              tree)
+        << control;
   }
 }
 
 TEST(ControlTree, GivesEachColourModeThreeLeaves) {
-  const ControlTree read = OnePath(
+  const OnePath read(
       "<ColorMode ID='1,2' DefaultICCProfile=' P3 ' DefaultDither='lost'>"
       "<PrinterSpecificSetting> \n</PrinterSpecificSetting><ICCProfile>p1</ICCProfile>"
       "<ICCProfile> p1</ICCProfile><ICCProfile>P1</ICCProfile><iccprofile>x</iccprofile>"
@@ -80,14 +70,14 @@ TEST(ControlTree, GivesEachColourModeThreeLeaves) {
       "<ColorMode ID='3'><PrinterSpecificSetting>SET a</PrinterSpecificSetting></ColorMode>"
       "<ColorMode ID='2'/>");
   EXPECT_EQ(read.tree, Under("1,2>-1[1,2,3;>-1;];3[3,0>1;>-1;];3[>-1;>-1;];2>-1[>-1;>-1;]"));
-  EXPECT_EQ(read.profiles, " P3 |p1| p1|");
-  EXPECT_EQ(read.settings, "Set A");
-  EXPECT_EQ(read.dithers, "") << "a default without a list";
+  EXPECT_EQ(Dump(read.members.ICCProfileList), " P3 |p1| p1|");
+  EXPECT_EQ(Dump(read.members.OEMInfoList), "Set A");
+  EXPECT_EQ(Dump(read.members.DitherNameList), "") << "a default without a list";
 }
 
 TEST(ControlTree, TakesDithersAndTheirResolutions) {
   const std::string d63(63, 'd');
-  const ControlTree read = OnePath(
+  const OnePath read(
       "<ColorMode ID='1' DefaultDither=' Floyd '><DitherList SupportAll='0'>"
       "<Dither Name='Fast' RipResolution='720.2X360'/><Dither Name='fast' RipResolution='600'/>"
       "<Dither Name='Fast' RipResolution='720.9x360.9'/><Dither Name='Fast' RipResolution='x9'/>"
@@ -101,41 +91,18 @@ TEST(ControlTree, TakesDithersAndTheirResolutions) {
       d63 + "ab' RipResolution='1'/><Dither Name='" + d63 +
       "ac' RipResolution='1'/><Dither Name='" + d63 +
       "' RipResolution='1'/></DitherList></ColorMode>");
-  EXPECT_EQ(read.dithers, "Floyd|Fast|fast| Fast|minus|FLOYD|" + d63 + "ab|" + d63 + "ac|" + d63);
+  EXPECT_EQ(Dump(read.members.DitherNameList),
+            "Floyd|Fast|fast| Fast|minus|FLOYD|" + d63 + "ab|" + d63 + "ac|" + d63);
   EXPECT_EQ(read.tree, Under("1>-1[>-1;1,2,3,4;0,1];2>-1[>-1;>5;2];3>-1[>-1;6,7,8>-1;3,4]"));
-  EXPECT_EQ(read.records,
-            "Fast 720.200000 360.000000;fast 600.000000 600.000000;"
-            "Fast 720.200000 360.000000;" +
-                d63 + "a 1.000000 1.000000;" + d63 + " 1.000000 1.000000;");
-  ASSERT_EQ(read.owners.size(), 5U);
-  EXPECT_EQ(read.owners[0], read.owners[1]);
-  EXPECT_NE(read.owners[0], read.owners[2]);
-  EXPECT_EQ(Dump(*read.owners[2]), "2");
-}
-
-// Alone, on lists that others have filled.
-TEST(ControlTree, DitherListsAppend) {
-  const auto tree =
-      TreeOf("<DitherList><Dither Name='b' RipResolution='2'/><Dither Name='a'/></DitherList>");
-  AXMLTreeNode list;
-  ASSERT_NE(tree->getRootNode(list), 0);
-  CQDFNode dithers;
-  CQDFNode resolutions;
-  AStringArray names;
-  names.Add("a");
-  OwnedItems<DitherResolutionInfo> records;
-  for (int round = 0; round < 2; ++round) {
-    ReadDitherList(&dithers, &resolutions, tree.get(), list, names, records, " a ");
-    EXPECT_EQ(Dump(dithers) + " " + Dump(resolutions) + " " + Dump(names), "1,0 0 a|b");
-    EXPECT_EQ(records.GetSize(), 1);
+  std::vector<std::string> records;
+  for (const auto& each : Records<DitherResolutionInfo>(read.members.DitherResolutionList)) {
+    AString numbers;
+    numbers.Format(" %gx%g of ", each.XResolution, each.YResolution);
+    records.push_back(Str(each.Name) + static_cast<const char*>(numbers) + Dump(*each.OwnerNode));
   }
-  resolutions.IDs.SetSize(0, -1);
-  ReadDitherList(&dithers, &resolutions, tree.get(), list, names, records, "");
-  EXPECT_EQ(Dump(resolutions), "0") << "a record that only its list knows";
-  EXPECT_EQ(records.GetSize(), 1);
-  CQDFNode other;
-  ReadDitherList(&dithers, &other, tree.get(), list, names, records, "");
-  EXPECT_EQ(Dump(dithers) + " " + Dump(other), "1,0 1");
+  EXPECT_EQ(Join(records, "; "),
+            "Fast 720.2x360 of 0,1; fast 600x600 of 0,1; Fast 720.2x360 of 2; " + d63 +
+                "a 1x1 of 3,4; " + d63 + " 1x1 of 3,4");
 }
 
 TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
@@ -160,9 +127,8 @@ TEST(SourceTree, KeepsSourcesWithoutIDsAndMarginsOfTheirOwn) {
                                 .SourceControl = control});
     EXPECT_EQ(Dump(*document->GetMediaSourceTreeRoot()), tree) << control;
   }
-  const auto without = Load({.SourceControl = rows[1].first});
-  EXPECT_EQ(Dump(*without->GetMediaSourceTreeRoot()), "")
-      << "no sources, so the section isn't read";
+  EXPECT_EQ(Dump(*Load({.SourceControl = rows[1].first})->GetMediaSourceTreeRoot()), "")
+      << "without a list of sources the section isn't read";
 }
 
 // Without a document, and for one that doesn't keep the tree.
@@ -170,9 +136,7 @@ TEST(Trees, AreReadAtOnceFromATreeOfTheCallers) {
   const std::string file = QDF_EXAMPLES "/OutputDrivers/plot36.qdf";
   const auto document = LoadFile(file);
   const DocumentMembers whole(*document);
-  AXMLTree tree("RootElement");
-  AFilePath path(file.c_str());
-  ASSERT_NE(tree.loadFromFile(path, 1), 0);
+  const auto tree = TreeOf(ReadFile(file));
   for (const bool forADocument : {false, true}) {
     AStringArray profiles;
     AStringArray settings;
@@ -180,35 +144,24 @@ TEST(Trees, AreReadAtOnceFromATreeOfTheCallers) {
     APtrArray records;
     CQDFNode root;
     DeferredDithers dithers(names, records);
-    dithers.BeginTree(tree);
-    EXPECT_EQ(ReadControlDefinition(&tree, whole.InkList, whole.MediaList, whole.PrintModeList,
-                                    whole.ResolutionList, whole.ColorModeList, root, profiles,
-                                    settings, names, records, forADocument ? &dithers : nullptr),
-              1);
+    dithers.BeginTree(*tree);
+    const auto read = [&](AXMLTree* from) {
+      return ReadControlDefinition(from, whole.InkList, whole.MediaList, whole.PrintModeList,
+                                   whole.ResolutionList, whole.ColorModeList, root, profiles,
+                                   settings, names, records, forADocument ? &dithers : nullptr);
+    };
+    EXPECT_EQ(read(nullptr), 0);
+    EXPECT_EQ(read(tree.get()), 1);
     EXPECT_EQ(Dump(root), Dump(whole.ControlTreeRoot));
     EXPECT_EQ(Dump(names), Dump(whole.DitherNameList));
     EXPECT_EQ(records.GetSize(), whole.DitherResolutionList.GetSize());
     if (!forADocument) DeleteItems<DitherResolutionInfo>(records);
   }
-}
-
-TEST(Trees, ReadersAnswerForNothing) {
   APtrArray none;
   CQDFNode root;
-  AStringArray names;
-  const auto tree = TreeOf(
-      "<a><Control_Definition DefaultInk='3'><Ink ID='ALL'/>"
-      "</Control_Definition></a>");
-  EXPECT_EQ(
-      ReadControlDefinition(nullptr, none, none, none, none, none, root, names, names, names, none),
-      0);
   EXPECT_EQ(ReadMediaSourceControl(nullptr, none, none, none, root), 0);
   EXPECT_EQ(ReadMediaSourceControl(tree.get(), none, none, none, root), 1);
-  EXPECT_EQ(Dump(root), "");
-  EXPECT_EQ(ReadControlDefinition(tree.get(), none, none, none, none, none, root, names, names,
-                                  names, none),
-            1);
-  EXPECT_EQ(Dump(root), ">3");
+  EXPECT_EQ(Dump(root), ">1[>1]") << "a source without ids";
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "qdf/definition/colorarchive.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <sstream>
 
 #include "qdf/support/text.h"
 #include "tests/documents.h"
@@ -19,20 +19,14 @@ std::vector<std::string> Fields(const ANewColorOpt& option) {
   const ColorantInfo& colorant = option.Colorant;
   std::vector<std::string> fields = {Str(option.Shape), Str(colorant.InternalName),
                                      Str(colorant.DisplayName)};
-  std::ostringstream numbers;
-  numbers << option.Frequency << " " << option.Angle << " " << option.Setting5;
-  for (const int number :
-       {option.Setting0, option.Setting4, option.Setting6, option.Setting7, option.Setting8,
-        colorant.ColorDepth, colorant.IsSpotColor, colorant.IsPrint}) {
-    numbers << " " << number;
-  }
-  for (const unsigned number : {option.Setting9, option.Setting10, colorant.ColorantSetting5}) {
-    numbers << " " << number;
-  }
-  for (const double value : option.CurveValues) numbers << " " << value;
-  for (const int flag : option.CurveFlags) numbers << " " << flag;
-  std::istringstream words(numbers.str());
-  for (std::string word; words >> word;) fields.push_back(word);
+  const auto put = [&](auto... numbers) {
+    (fields.emplace_back(AString().Format("%.12g", static_cast<double>(numbers))), ...);
+  };
+  put(option.Frequency, option.Angle, option.Setting5, option.Setting0, option.Setting4,
+      option.Setting6, option.Setting7, option.Setting8, colorant.ColorDepth, colorant.IsSpotColor,
+      colorant.IsPrint, option.Setting9, option.Setting10, colorant.ColorantSetting5);
+  for (const double value : option.CurveValues) put(value);
+  for (const int flag : option.CurveFlags) put(flag);
   return fields;
 }
 
@@ -108,22 +102,6 @@ TEST_F(ColorArchive, ReadsAndWritesTheStoredForm) {
   EXPECT_EQ(ReadFile(Path()), StoredRecord());
 }
 
-TEST_F(ColorArchive, CarriesFullFields) {
-  ANewColorOpt full;
-  SetField(full.Shape, std::string(128, 's'));
-  SetField(full.Colorant.InternalName, std::string(64, 'i'));
-  SetField(full.Colorant.DisplayName, std::string(64, 'd'));
-  AArchive writing = Open(Direction::Writing);
-  writing << full << ANewColorOpt();
-  ASSERT_EQ(writing.Close(), 1);
-  AArchive archive = Open(Direction::Reading);
-  ANewColorOpt read;
-  archive >> read;
-  EXPECT_EQ(Fields(read), Fields(full));
-  archive >> read;
-  EXPECT_EQ(Fields(read), Fields(ANewColorOpt()));
-}
-
 TEST_F(ColorArchive, ReadsOlderAndNewerRecords) {
   AArchive writing = Open(Direction::Writing);
   writing.TagStart().Tag(1) << AString(std::string(200, 's').c_str());
@@ -147,41 +125,44 @@ TEST_F(ColorArchive, ReadsOlderAndNewerRecords) {
   expected[2] = std::string(64, 'd');
   expected[7] = std::to_string(44);
   EXPECT_EQ(Fields(read), expected);
+
+  // Full fields are written as far as they reach.
+  SetField(read.Colorant.InternalName, std::string(64, 'i'));
+  AArchive full = Open(Direction::Writing);
+  full << read << ANewColorOpt();
+  ASSERT_EQ(full.Close(), 1);
+  AArchive copy = Open(Direction::Reading);
+  ANewColorOpt again[2];
+  copy >> again[0] >> again[1];
+  EXPECT_EQ(Fields(again[0]), Fields(read));
+  EXPECT_EQ(Fields(again[1]), Fields(ANewColorOpt()));
+}
+
+std::vector<std::string> Read(AArchive& archive) {
+  ANewColorOpt option;
+  archive >> option;
+  return Fields(option);
 }
 
 TEST_F(ColorArchive, ReadsWhatIsLeftOfACutRecord) {
   const std::string bytes = StoredRecord();
-  ANewColorOpt whole;
-  AArchive wholeArchive = Reading(bytes);
-  wholeArchive >> whole;
-  const std::vector<std::string> stored = Fields(whole);
-  const std::vector<std::string> fresh = Fields(ANewColorOpt());
+  AArchive whole = Reading(bytes);
+  AArchive empty = Reading("");
+  const std::vector<std::string> stored = Read(whole);
+  const std::vector<std::string> nothing = Read(empty);
   for (std::size_t size = 0; size < bytes.size(); ++size) {
     AArchive archive = Reading(bytes.substr(0, size));
-    ANewColorOpt read;
-    archive >> read;
-    EXPECT_NE(archive.AtEnd(), 0) << size;
-    EXPECT_NE(archive.IsDamaged(), 0) << size;
-    const std::vector<std::string> fields = Fields(read);
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-      const bool isCurve = i + std::size_t{2} * ANewColorOpt::kCurvePoints >= fields.size();
-      const bool isNothing = fields[i].empty() || fields[i] == "0";
-      EXPECT_TRUE(fields[i] == stored[i] || isNothing || (isCurve && fields[i] == fresh[i]))
-          << "cut at " << size << ": " << fields[i];
-    }
+    const std::vector<std::string> fields = Read(archive);
+    EXPECT_TRUE(archive.AtEnd() != 0 && archive.IsDamaged() != 0) << size;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+      EXPECT_THAT(fields[i], testing::AnyOf(stored[i], nothing[i], "0")) << size;
   }
-}
-
-TEST_F(ColorArchive, ReadsNothingOutOfOneThatIsOpenForWriting) {
-  AArchive archive = Open(Direction::Writing);
-  ANewColorOpt read;
-  archive << 7 >> read << 8;
-  ASSERT_EQ(archive.Close(), 1);
+  AArchive writing = Open(Direction::Writing);
+  writing << 7;
+  EXPECT_EQ(Read(writing), nothing);
+  writing << 8;
+  ASSERT_EQ(writing.Close(), 1);
   EXPECT_EQ(ReadFile(Path()), std::string("\7\0\0\0\10\0\0\0", 8));
-  ANewColorOpt absent;
-  AArchive empty = Reading("");
-  empty >> absent;
-  EXPECT_EQ(Fields(read), Fields(absent));
 }
 
 }  // namespace

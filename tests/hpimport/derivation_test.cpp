@@ -1,19 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <limits>
 #include <random>
 
-#include "qdf/hpimport/derivecolormodes.h"
 #include "qdf/hpimport/derivecontroltree.h"
-#include "qdf/hpimport/derivelists.h"
 #include "qdf/hpimport/growingtree.h"
 #include "tests/hpimport/derived.h"
 #include "tests/hpimport/resources.h"
 
 namespace {
-
-constexpr int kGreatest = std::numeric_limits<int>::max();
 
 // A document derived from the resources, with the inks and media of a previous one.
 std::unique_ptr<APMQDF> Derive(const std::vector<Resource>& resources, DocumentText previous = {},
@@ -71,9 +66,7 @@ TEST(DeriveMedia, KeepTheirIdsByBothNamesAndAreNumberedOnByKind) {
   EXPECT_EQ(Media({{}}, "9=Gloss/Glossy;7=Gloss/Glossy"), "9=Glossy/Gloss");
   EXPECT_EQ(Media({{}, {.media = "N", .customizable = 1}}, "-5=Gloss/Glossy"),
             "-5=Glossy/Gloss;10001=N/Gloss*");
-}
-
-TEST(DeriveMedia, CountNamesWithAsManyCharactersAsAFieldHolds) {
+  // Names count with as many characters as a field holds.
   const std::string full(256, 'x');
   EXPECT_EQ(Media({{.media = full, .displayNames = {full + "1", full + "2"}},
                    {.media = full + "3", .displayNames = {full}}},
@@ -82,21 +75,16 @@ TEST(DeriveMedia, CountNamesWithAsManyCharactersAsAFieldHolds) {
 }
 
 TEST(DeriveMedia, FailWhenNoNumberIsLeft) {
-  const DocumentText previous{.MediaList = Entries(std::to_string(kGreatest) + "=Gloss/Glossy")};
-  const auto kept = Derive({{}}, previous);
-  EXPECT_EQ(IDs(Records<MediaTypeInfo>(DocumentMembers(*kept).MediaList)), "2147483647");
+  const DocumentText previous{.MediaList = Entries("2147483647=Gloss/Glossy")};
+  EXPECT_EQ(All({{}}, previous).media, "2147483647=Glossy/Gloss");
   const auto failed = Derive({{}, {.media = "New"}}, previous, 0);
   EXPECT_EQ(DocumentMembers(*failed).MediaList.GetSize(), 0);
 }
 
 TEST(DerivePrintModes, AreNumberedByQuality) {
-  EXPECT_EQ(All({{.quality = "superbest"},
-                 {.quality = "Best"},
-                 {.quality = "premium"},
-                 {.quality = "draft"}})
-                .printModes,
-            "1=premium/Best;2=superbest/Best;3=Best/Best;4=draft/Best");
-  EXPECT_EQ(All({{.quality = "BEST"},
+  EXPECT_EQ(All({{.quality = "draft"},
+                 {.quality = "superbest"},
+                 {.quality = "BEST"},
                  {.quality = "best"},
                  {.quality = "best", .printQuality = "best"},
                  {.quality = "Fastest"},
@@ -104,9 +92,11 @@ TEST(DerivePrintModes, AreNumberedByQuality) {
                  {.quality = "normal1", .printQuality = "N"},
                  {.quality = "Photo"},
                  {.quality = "my best"},
-                 {.quality = "bes"}})
+                 {.quality = "bes"},
+                 {.quality = "premium"}})
                 .printModes,
-            "1=BEST/Best;2=best/best;3=normal2/N;4=normal1/N;5=Fastest/Best");
+            "1=premium/Best;2=superbest/Best;3=BEST/Best;4=best/best;5=normal2/N;6=normal1/N;"
+            "7=Fastest/Best;8=draft/Best");
 }
 
 TEST(DeriveResolutions, AreToldApartByNameAndExactNumbers) {
@@ -132,21 +122,19 @@ TEST(DeriveColorModes, AreMadeOnceForALayoutAndADepth) {
   EXPECT_EQ(All({{.format = "kcmy"}, {.format = "CMYK"}, {.format = ""}, {}}).colorModes, first);
 }
 
-TEST(Derive, CountsWhatAListHoldsAlready) {
+TEST(Derivation, CountsWhatTheListsHoldAlready) {
   Resources resources;
   AddTo(resources, {});
-  APtrArray none;
-  OwnedItems<MediaTypeInfo> media;
-  OwnedItems<ResolutionInfo> resolutions;
-  OwnedItems<ColorModeInfo> colorModes;
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(DeriveMediaList(resources, media, none), 1);
-    EXPECT_EQ(DeriveResolutionList(resources, resolutions), 1);
-    EXPECT_EQ(DeriveColorModeList(resources, colorModes), 1);
-  }
-  EXPECT_EQ(DumpMedia(media), "1=Glossy/Gloss;1=Glossy/Gloss");
-  EXPECT_EQ(resolutions.GetSize(), 1);
-  EXPECT_EQ(colorModes.GetSize(), 2);
+  const auto previous = Load({});
+  DocumentMembers former(*previous);
+  APMQDF document;
+  for (int i = 0; i < 2; ++i)
+    EXPECT_EQ(document.LoadHPResourceInfo(resources, former.InkList, former.MediaList), 1);
+  const Derived derived{DocumentMembers(document)};
+  EXPECT_EQ(derived.media, "1=Glossy/Gloss;1=Glossy/Gloss");
+  EXPECT_EQ(derived.resolutions, "1=600/600x600");
+  EXPECT_EQ(derived.colorModes,
+            "1=CMYK/No(Cyan 2,Magenta 2,Yellow 2,Black 1);2=Gray Scale/Yes(Gray 1)");
 }
 
 TEST(DeriveTree, GivesEachResourceAPath) {
@@ -166,29 +154,22 @@ TEST(DeriveTree, GivesEachResourceAPath) {
   EXPECT_EQ(Tree({{}, {.media = "B", .color = 3}}),
             ">1[1>1[1>1[1[1[1,2[0;0>-1]]]];2>1[1[1[2,3[0;0>-1]]]]]] f.xml p.icc 101");
   // Two colour modes that share their grey one share a node, the earlier one first.
-  EXPECT_EQ(Tree({{}, {.color = 3}, {.black = 4}}),
-            ">1[1>1[1>1[1[1[1,2,3,4[0;0>-1;0;0>-1;0;0>-1]]]]]] f.xml p.icc 101");
+  EXPECT_EQ(Tree({{}, {.color = 3}, {.black = 4, .color = 5}, {.black = 4}}),
+            ">1[1>1[1>1[1[1[1,2,3,5[0;0>-1;0;0>-1;0;0>-1];4,5[0;0>-1]]]]]] f.xml p.icc 101");
 }
 
 TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
-  const struct {
-    std::vector<Resource> resources;
-    const char* filled;  // the sizes of the lists
-  } rows[] = {
-      {{}, "1 0 0 0 0"},
-      {{{.displayNames = {}}}, "1 0 0 0 0"},
-      {{{.quality = "Photo"}}, "1 1 0 0 0"},
-      {{{.format = ""}}, "1 1 1 1 0"},
-  };
-  for (const auto& row : rows) {
-    const auto document = Derive(row.resources, {}, 0);
-    const DocumentMembers members(*document);
-    AString sizes;
-    sizes.Format("%d %d %d %d %d", members.InkList.GetSize(), members.MediaList.GetSize(),
-                 members.PrintModeList.GetSize(), members.ResolutionList.GetSize(),
-                 members.ColorModeList.GetSize());
-    EXPECT_EQ(sizes, row.filled);
-    EXPECT_EQ(Dump(members.ControlTreeRoot), "");
+  const std::pair<std::vector<Resource>, const char*> rows[] = {
+      {{}, "|||"},
+      {{{.displayNames = {}}}, "|||"},
+      {{{.quality = "Photo"}}, "1=Glossy/Gloss|||"},
+      {{{.format = ""}}, "1=Glossy/Gloss|1=best/Best|1=600/600x600|"}};
+  for (const auto& [resources, lists] : rows) {
+    const Derived derived{DocumentMembers(*Derive(resources, {}, 0))};
+    EXPECT_EQ(
+        Join({derived.media, derived.printModes, derived.resolutions, derived.colorModes}, "|"),
+        lists);
+    EXPECT_EQ(derived.tree, "   ");
   }
   Resources resources;
   AddTo(resources, {});
@@ -220,7 +201,7 @@ TEST(DeriveTree, GrowsFastAsAWalkDoes) {
   }
 }
 
-TEST(DeriveTree, FindsByAnySharedIdAndByName) {
+TEST(DeriveTree, FindsNodesByAnySharedIdAndMediaByInternalName) {
   const auto ids = [](std::initializer_list<std::uint32_t> words) {
     ADWordArray array;
     for (const std::uint32_t word : words) array.Add(word);
@@ -231,15 +212,9 @@ TEST(DeriveTree, FindsByAnySharedIdAndByName) {
     FindOrAddChild(&parent, wanted);
   }
   EXPECT_EQ(Dump(parent), "[1,2,4;2,3;]");
-  const auto document =
-      Load({.MediaList = Entries("3=b/A;2=c/A;4=b/B"), .PrintModeList = Entries("7=Best;8=Best")});
-  DocumentMembers members(*document);
-  EXPECT_EQ(FindIDByDisplayName("b", members.MediaList), 3);
-  EXPECT_EQ(FindIDByDisplayName("B", members.MediaList), 1);
-  EXPECT_EQ(FindIDByDisplayName("Best", members.PrintModeList), 7);
+  const auto document = Load({.MediaList = Entries("3=b/A;2=c/A;4=b/B;5=b/a")});
   ADWordArray found = ids({9});
-  CollectMediaIDs("A", members.MediaList, found);
-  CollectMediaIDs("a", members.MediaList, found);
+  CollectMediaIDs("A", DocumentMembers(*document).MediaList, found);
   EXPECT_EQ(Dump(found), "9,3,2");
 }
 

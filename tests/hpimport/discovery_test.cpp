@@ -17,48 +17,35 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ResourceName, IsMadeOfTheTwoFoldersAboveTheFile) {
-  struct Row {
-    const char* path;
-    const char* name;  // media, quality and file; empty for a path that is no resource
-  };
-  const Row rows[] = {
-      {"/top/Glossy/best/Glossy_best.xml", "Glossy|best|Glossy_best.xml"},
-      {"Glossy/best/Glossy_best.xml", "Glossy|best|Glossy_best.xml"},
-      {"/top/Glossy/best/gLOSSY_Best.XML", "Glossy|best|gLOSSY_Best.XML"},
-      {"/a_b/c/a_b_c.xml", "a_b|c|a_b_c.xml"},
-      {"/a//b/a_b.xml", "a|b|a_b.xml"},
-      {"/top/Glossy/best/best_Glossy.xml", ""},
-      {"/top/Glossy/best/other.xml", ""},
-      {"/top/Glossy/best/Glossy_best.xm", ""},
-      {"/top/Glossy/best/Glossy_best.xml.bak", ""},
-      {"/top/Glossy/best/Glossy-best.xml", ""},
-      {"/top/Glossy/best/deeper/Glossy_best.xml", ""},
-      {"best/_best.xml", ""},
-      {"/best/_best.xml", ""},
-      {"Glossy_best.xml", ""},
-      {".xml", ""},
-      {"", ""},
-  };
-  for (const Row& row : rows) {
-    const auto name = FindResourceName(row.path);
-    const std::string found =
-        name ? Join({std::string(name->media), std::string(name->quality), std::string(name->file)},
-                    "|")
-             : "";
-    EXPECT_EQ(found, row.name) << row.path;
+  const std::pair<const char*, const char*> rows[] = {
+      {"/top/Glossy/best/Glossy_best.xml", "Glossy best Glossy_best.xml"},
+      {"Glossy/best/gLOSSY_Best.XML", "Glossy best gLOSSY_Best.XML"},
+      {"/a_b/c/a_b_c.xml", "a_b c a_b_c.xml"},
+      {"/a//b/a_b.xml", "a b a_b.xml"}};
+  for (const auto& [path, expected] : rows) {
+    const auto name = FindResourceName(path);
+    ASSERT_TRUE(name) << path;
+    EXPECT_EQ(
+        Join({std::string(name->media), std::string(name->quality), std::string(name->file)}, " "),
+        expected);
+  }
+  for (const std::string& path :
+       Split("/G/best/best_G.xml|/G/best/other.xml|/G/best/G_best.xm|/G/best/G_best.xml.bak|"
+             "/G/best/G-best.xml|/G/best/deeper/G_best.xml|best/_best.xml|/best/_best.xml|"
+             "G_best.xml|.xml|")) {
+    EXPECT_FALSE(FindResourceName(path)) << path;
   }
 }
 
 TEST(LevelsToDepth, IsExactForEveryPowerOfTwo) {
-  for (int n = 0; n <= 30; ++n) {
+  for (int n = 2; n <= 30; ++n) {
+    EXPECT_EQ(LevelsToDepth((1 << n) - 1), n - 1);
     EXPECT_EQ(LevelsToDepth(1 << n), n);
-    if (n > 1) {
-      EXPECT_EQ(LevelsToDepth((1 << n) - 1), n - 1);
-      EXPECT_EQ(LevelsToDepth((1 << n) + 1), n);
-    }
+    EXPECT_EQ(LevelsToDepth((1 << n) + 1), n);
   }
-  for (const int levels : {0, -1, -8, std::numeric_limits<int>::min()}) {
-    EXPECT_EQ(LevelsToDepth(levels), 0);
+  EXPECT_EQ(LevelsToDepth(2), 1);
+  for (const int none : {1, 0, -8, std::numeric_limits<int>::min()}) {
+    EXPECT_EQ(LevelsToDepth(none), 0);
   }
   EXPECT_EQ(LevelsToDepth(std::numeric_limits<int>::max()), 30);
 }
@@ -74,23 +61,26 @@ std::string Dump(const HPResourceInfo& record) {
               "/");
 }
 
-std::string Found(const std::string& folder) {
-  Resources records;
-  PMGetHPRecursive(folder.c_str(), records);
+std::string Dump(const APtrArray& records) {
   std::vector<std::string> texts;
-  for (int i = 0; i < records.GetSize(); ++i) {
-    texts.push_back(Dump(*static_cast<HPResourceInfo*>(records.GetAt(i))));
-  }
+  for (const auto& record : Records<HPResourceInfo>(records)) texts.push_back(Dump(record));
   return Join(texts, "\n");
 }
 
+std::string Found(const std::string& folder) {
+  Resources records;
+  PMGetHPRecursive(folder.c_str(), records);
+  return Dump(records);
+}
+
+constexpr const char* kGlossy = "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/";
+
 TEST(ResourceFile, IsReadLeniently) {
-  struct Row {
-    const char* quality;
+  const struct {
+    std::string quality;
     const char* text;
-    const char* record;  // null: none
-  };
-  const Row rows[] = {
+    const char* record;
+  } rows[] = {
       {"q",
        "<r release='2' printQuality='Best' displayResolution='600x300' isCustomizableMedia='2'>"
        "<halftoningParms algorithm='4' inputFormat='KCMY' inputHRes='600.5' inputVRes='300' "
@@ -105,90 +95,72 @@ TEST(ResourceFile, IsReadLeniently) {
        "M/superbest2//Best/600///0 0 0 0 0 0/M_superbest2.xml"},
       // A later element overwrites, also with what it lacks; but only fileNames with a profile.
       {"q",
-       "<r><fileNames><outputICC>a</outputICC></fileNames><fileNames/>"
+       "<r><fileNames><outputICC>a</outputICC></fileNames><fileNames/><DisplayName>A</DisplayName>"
+       "<x><displayName>B</displayName></x>"
        "<halftoningParms algorithm='4' inputHRes='1'/><halftoningParms inputVRes='2'/></r>",
        "M/q/////a/0 0 2 0 0 0/M_q.xml"},
-      {"q", "<r><DisplayName>A</DisplayName><x><displayName>B</displayName></x></r>",
-       "M/q//////0 0 0 0 0 0/M_q.xml"},
-      {"q", "<r>", nullptr},
-      {"q", "", nullptr},
-  };
-  for (const Row& row : rows) {
+      {"q", "<r>", ""},
+      {"q", "", ""}};
+  for (const auto& row : rows) {
     const TempFolder folder;
-    folder.Write(Join({"M/", row.quality, "/M_", row.quality, ".xml"}, ""), row.text);
-    EXPECT_EQ(Found(folder.Path()), row.record != nullptr ? row.record : "") << row.text;
+    folder.Write("M/" + row.quality + "/M_" + row.quality + ".xml", row.text);
+    EXPECT_EQ(Found(folder.Path()), row.record) << row.text;
   }
   EXPECT_EQ(ParseHPResourceFile(nullptr, nullptr), 0);
 }
 
 TEST(ResourceFile, IsLoadedFromAPathUnderTheToldNames) {
   const TempFolder folder;
-  const AFilePath whole(WriteResource(folder, "t", {}).c_str());
-  const AFilePath broken(folder.Write("broken.xml", "<r>").c_str());
-  const AFilePath missing(folder.Path("missing.xml").c_str());
   Resources records;
-  for (AFilePath path : {broken, missing, whole}) {
+  for (const std::string& file : {folder.Write("broken.xml", "<r>"), folder.Path("missing.xml"),
+                                  WriteResource(folder, "t", {})}) {
+    AFilePath path(file.c_str());
     LoadHPResourceFile(path, records, "media", "quality", "file");
   }
-  ASSERT_EQ(records.GetSize(), 1);
-  EXPECT_EQ(Dump(*static_cast<HPResourceInfo*>(records.GetAt(0))),
-            "media/quality/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/file");
+  EXPECT_EQ(Dump(records), "media/quality/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/file");
 }
 
 TEST(Discovery, FindsResourcesAtAnyDepthInTheOrderOfTheSearch) {
   const TempFolder folder;
-  const std::string empty = "<r/>";
   for (const char* file : {"b/Q/b_q.xml", "B/q/B_q.xml", "B/q/b_Q.XML", "B/q/other.xml", "a.xml",
-                           "A/x/y/z/y_z.xml", "A/x/A_x.xml", "c/d/d_c.xml", "c/bad/c_bad.xml"}) {
-    folder.Write(file, std::string(file).find("bad") == std::string::npos ? empty : "<r");
+                           "A/x/y/z/y_z.xml", "A/x/A_x.xml", "c/d/d_c.xml"}) {
+    folder.Write(file, "<r/>");
   }
+  folder.Write("c/bad/c_bad.xml", "<r");
   const std::string rest = "//////0 0 0 0 0 0/";
-  const std::string all =
-      Join({"A/x" + rest + "A_x.xml", "y/z" + rest + "y_z.xml", "B/q" + rest + "B_q.xml",
-            "B/q" + rest + "b_Q.XML", "b/Q" + rest + "b_q.xml"},
-           "\n");
-  EXPECT_EQ(Found(folder.Path()), all);
+  const std::string below = "A/x" + rest + "A_x.xml\ny/z" + rest + "y_z.xml";
+  const std::string all = Join(
+      {below, "B/q" + rest + "B_q.xml", "B/q" + rest + "b_Q.XML", "b/Q" + rest + "b_q.xml"}, "\n");
   EXPECT_EQ(Found(folder.Path() + "//"), all);
-  {
-    const WorkingFolder in(folder.Path());
-    EXPECT_EQ(Found("."), all);
-    EXPECT_EQ(Found(""), "");
-    EXPECT_EQ(Found("A/x"), "A/x" + rest + "A_x.xml\ny/z" + rest + "y_z.xml");
-  }
-  EXPECT_EQ(Found(folder.Path("missing")), "");
-  EXPECT_EQ(Found(folder.Path("a.xml")), "");
+  const WorkingFolder in(folder.Path());
+  EXPECT_EQ(Found("."), all);
+  EXPECT_EQ(Found("A/x"), below);
+  for (const char* none : {"", "missing", "a.xml"}) EXPECT_EQ(Found(none), "") << none;
 }
 
-// The path is longer than the system takes in one piece.
-TEST(Discovery, FindsResourcesAtEndlessPaths) {
-  const TempFolder folder;
-  const std::string resource = WriteResource(folder, "t", {});
-  const std::string name(250, 'x');
-  Descriptor deep = OpenFolder(folder.Path("t").c_str());
-  for (int i = 0; i < 20; ++i) {
-    ASSERT_EQ(mkdirat(deep.Number(), name.c_str(), 0755), 0);
-    deep = OpenSubfolder(deep, name.c_str());
-  }
-  fs::rename(folder.Path("t/Glossy"), folder.Path("Glossy"));
-  ASSERT_EQ(renameat(AT_FDCWD, folder.Path("Glossy").c_str(), deep.Number(), "Glossy"), 0);
-  EXPECT_EQ(Found(folder.Path()),
-            "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/Glossy_best.xml");
-  RemoveFolderTree(folder.Path("t").c_str());
-  EXPECT_TRUE(fs::is_empty(folder.Path()));
-}
-
-// In memory where the machine has such a folder: many disks are slow to make so many files.
-TEST(Discovery, FindsTheResourceAmongManyFiles) {
+// At a path that is longer than the system takes in one piece, among files whose names begin like
+// the resource's. In memory where the machine has such a folder: many disks are slow to make so
+// many.
+TEST(Discovery, FindsAResourceAtAnEndlessPathAmongManyFiles) {
   const fs::path memory = "/dev/shm";
   const TempFolder folder(access(memory.c_str(), W_OK) == 0 ? memory : fs::temp_directory_path());
-  const fs::path resource = WriteResource(folder, "t", {});
+  const fs::path resource = WriteResource(folder, ".", {});
   const Descriptor best = OpenFolder(resource.parent_path().c_str());
   for (int i = 0; i < 100'000; ++i) {
     const std::string name = "Glossy_best.xml" + std::to_string(i);
     ASSERT_EQ(mknodat(best.Number(), name.c_str(), S_IFREG | 0600, 0), 0);
   }
-  EXPECT_EQ(Found(folder.Path()),
-            "Glossy/best/Gloss/Best/600/KCMY/p.icc/0 600 600 1 2 1/Glossy_best.xml");
+  const std::string name(250, 'x');
+  fs::create_directory(folder.Path("t"));
+  Descriptor deep = OpenFolder(folder.Path("t").c_str());
+  for (int i = 0; i < 20; ++i) {
+    ASSERT_EQ(mkdirat(deep.Number(), name.c_str(), 0755), 0);
+    deep = OpenSubfolder(deep, name.c_str());
+  }
+  ASSERT_EQ(renameat(AT_FDCWD, folder.Path("Glossy").c_str(), deep.Number(), "Glossy"), 0);
+  EXPECT_EQ(Found(folder.Path()), kGlossy + std::string("Glossy_best.xml"));
+  RemoveFolderTree(folder.Path("t").c_str());
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 TEST(Discovery, AppendsAndNeverReadsThroughALink) {
@@ -203,8 +175,8 @@ TEST(Discovery, AppendsAndNeverReadsThroughALink) {
   Resources records;
   PMGetHPRecursive(folder.Path("t").c_str(), records);
   PMGetHPRecursive(folder.Path("t").c_str(), records);
-  ASSERT_EQ(records.GetSize(), 2);
-  EXPECT_EQ(static_cast<HPResourceInfo*>(records[1])->MediaName, "Own");
+  EXPECT_EQ(records.GetSize(), 2);
+  EXPECT_EQ(static_cast<HPResourceInfo*>(records[0])->MediaName, "Own");
   // The folder itself may be reached through one.
   fs::create_directory_symlink(outside.Path(), folder.Path("link"));
   EXPECT_TRUE(Found(folder.Path("link")).starts_with("Glossy/best/Gloss"));

@@ -17,34 +17,25 @@ std::string Answer(APMQDF& document, Ask ask, const ID&... ids) {
   return records + "@" + std::to_string(position);
 }
 
+using D = APMQDF;
+
 // What may follow 0 to 4 ids of the control tree.
 std::string Next(APMQDF& document, const std::vector<int>& ids) {
-  using D = APMQDF;
-  switch (ids.size()) {
-    case 0:
-      return Answer<InkTypeInfo>(document, &D::GetInkTypeList);
-    case 1:
-      return Answer<MediaTypeInfo>(document, &D::GetMediaTypeList, ids[0]);
-    case 2:
-      return Answer<PrintModeInfo>(document, &D::GetPrintModeList, ids[0], ids[1]);
-    case 3:
-      return Answer<ResolutionInfo>(document, &D::GetResolutionList, ids[0], ids[1], ids[2]);
-    default:
-      return Answer<ColorModeInfo>(document, &D::GetColorModeList, ids[0], ids[1], ids[2], ids[3]);
+  const std::size_t level = ids.size();
+  if (level == 0) return Answer<InkTypeInfo>(document, &D::GetInkTypeList);
+  if (level == 1) return Answer<MediaTypeInfo>(document, &D::GetMediaTypeList, ids[0]);
+  if (level == 2) return Answer<PrintModeInfo>(document, &D::GetPrintModeList, ids[0], ids[1]);
+  if (level == 3) {
+    return Answer<ResolutionInfo>(document, &D::GetResolutionList, ids[0], ids[1], ids[2]);
   }
+  return Answer<ColorModeInfo>(document, &D::GetColorModeList, ids[0], ids[1], ids[2], ids[3]);
 }
 
 // And of the media source tree.
 std::string NextSource(APMQDF& document, const std::vector<int>& ids) {
-  using D = APMQDF;
-  switch (ids.size()) {
-    case 0:
-      return Answer<MediaSourceInfo>(document, &D::GetMediaSourceList);
-    case 1:
-      return Answer<MediaSizeInfo>(document, &D::GetMediaSizeList, ids[0]);
-    default:
-      return Answer<MarginInfo>(document, &D::GetMarginInfoList, ids[0], ids[1]);
-  }
+  if (ids.empty()) return Answer<MediaSourceInfo>(document, &D::GetMediaSourceList);
+  if (ids.size() == 1) return Answer<MediaSizeInfo>(document, &D::GetMediaSizeList, ids[0]);
+  return Answer<MarginInfo>(document, &D::GetMarginInfoList, ids[0], ids[1]);
 }
 
 struct Row {
@@ -129,20 +120,19 @@ TEST(Narrowing, AppendsToWhatTheVectorHolds) {
   std::vector<MediaTypeInfo> media;
   std::vector<MediaSourceInfo> sources(1);
   std::vector<MarginInfo> margins(1);
-  int position = 99;
-  EXPECT_EQ(document->GetInkTypeList(inks, position), 1);
-  EXPECT_EQ(IDs(inks) + "@" + std::to_string(position), "0,1,2@1");
+  int at[5] = {99, 99, 99, 99, 99};
+  EXPECT_EQ(document->GetInkTypeList(inks, at[0]), 1);
   EXPECT_EQ(document->GetFullInkTypeList(inks), 1);
   EXPECT_EQ(IDs(inks), "0,1,2,1,2");
-  EXPECT_EQ(document->GetMediaTypeList(1, media, position), 1);
-  EXPECT_EQ(document->GetMediaTypeList(1, media, position), 1);
-  EXPECT_EQ(IDs(media) + "@" + std::to_string(position), "10,11,10,11@3");
-  EXPECT_EQ(document->GetMediaTypeList(2, media, position), 0) << "no path";
-  EXPECT_EQ(IDs(media) + "@" + std::to_string(position), "10,11,10,11@0");
-  EXPECT_EQ(document->GetMediaSourceList(sources, position), 1) << "an empty tree is a path";
+  EXPECT_EQ(document->GetMediaTypeList(1, media, at[1]), 1);
+  EXPECT_EQ(document->GetMediaTypeList(1, media, at[2]), 1);
+  EXPECT_EQ(document->GetMediaTypeList(2, media, at[3]), 0) << "no path";
+  EXPECT_EQ(IDs(media), "10,11,10,11");
+  EXPECT_EQ(document->GetMediaSourceList(sources, at[4]), 1) << "an empty tree is a path";
   EXPECT_EQ(document->GetFullMediaSourceInfoList(sources), 1);
-  EXPECT_EQ(document->GetMarginInfoList(1, 1, margins, position), 0);
+  EXPECT_EQ(document->GetMarginInfoList(1, 1, margins, at[4]), 0);
   EXPECT_EQ(IDs(sources) + IDs(margins), "00");
+  EXPECT_EQ(std::vector<int>(at, at + 5), (std::vector<int>{1, 1, 3, 0, 0}));
 }
 
 }  // namespace

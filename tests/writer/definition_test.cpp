@@ -15,29 +15,31 @@ TEST(WriteDefinition, AnEmptyDocumentIsAFrame) {
             "    <ColorModeList />\n  </Definition>\n</QDF_Info>\n");
 }
 
-std::unique_ptr<APMQDF> LoadExample() {
-  return Load({.InkList = Entries("2=Photo/pk;1"),
-               .MediaList = "<a><ID>3</ID><DisplayName>b</DisplayName></a><a><ID>1</ID>"
-                            "<IsCustomizableMedia>2</IsCustomizableMedia></a>",
-               .PrintModeList = Entries("1=Best/best"),
-               .ResolutionList = Resolutions("1=600;2=720x360;3=600.5;4=600.2X600.7;5=-1.9;6=1e99;"
-                                             "7=nan"),
-               .ColorModeList = "<a><ID>1</ID><DisplayName>Two</DisplayName><ColorantList><c IsSpot"
-                                "Color='1'><ColorDepth>8</ColorDepth><DisplayName>Red</DisplayName>"
-                                "</c><c/></ColorantList></a>",
-               .MediaSourceList = Entries("-4=Roll") + "<b/>",
-               .MediaSizeList = Entries("2147483647=/A4",
-                                        "<PCLid>-1</PCLid><IsRoll>1</IsRoll>"
-                                        "<Size>8.2677165 1e20</Size>"),
-               .MarginInfoList = Entries("2", "<Size>1,2.5,-3,1e3</Size>"),
-               .Definition = "<ProductType> x&amp;y </ProductType><TranslationTable>t"
-                             "</TranslationTable><CustomMediaFile>c</CustomMediaFile>"
-                             "<MinAndMaxMediaSize>1,2.0000006,3,4</MinAndMaxMediaSize>"
-                             "<MinMarginSize>1 2 3 4</MinMarginSize>"});
-}
-
 TEST(WriteDefinition, ListsHaveTheirElementsInOrder) {
-  const auto document = LoadExample();
+  const auto document =
+      Load({.InkList = Entries("2=Photo/pk;1"),
+            .MediaList = "<a><ID>3</ID><DisplayName>b</DisplayName></a><a><ID>1</ID>"
+                         "<IsCustomizableMedia>2</IsCustomizableMedia></a>",
+            .PrintModeList = Entries("1=Best/best"),
+            .ResolutionList = Resolutions("1=600;2=720x360;3=600.5;4=600.2X600.7;5=-1.9;6=1e99;"
+                                          "7=nan"),
+            .ColorModeList = "<a><ID>1</ID><DisplayName>Two</DisplayName><ColorantList><c IsSpot"
+                             "Color='1'><ColorDepth>8</ColorDepth><DisplayName>Red</DisplayName>"
+                             "</c><c/></ColorantList></a>",
+            .MediaSourceList = Entries("-4=Roll") + "<b/>",
+            .MediaSizeList = Entries("2147483647=/A4",
+                                     "<PCLid>-1</PCLid><IsRoll>1</IsRoll>"
+                                     "<Size>8.2677165 1e20</Size>"),
+            .MarginInfoList = Entries("2", "<Size>1,2.5,-3,1e3</Size>"),
+            .Definition = "<ProductType> x&amp;y </ProductType><TranslationTable>t"
+                          "</TranslationTable><CustomMediaFile>c</CustomMediaFile>"
+                          "<MinAndMaxMediaSize>1,2.0000006,3,4</MinAndMaxMediaSize>"
+                          "<MinMarginSize>1 2 3 4</MinMarginSize>",
+            .Control = Control("[1,2[1,3>1[1[2,1[1]]]]]", "<ICCProfile>p</ICCProfile>")});
+  const DocumentMembers members(*document);
+  // Translated names are written but for media.
+  SetField(static_cast<MediaTypeInfo*>(members.MediaList[0])->DisplayName, "translated");
+  SetField(static_cast<PrintModeInfo*>(members.PrintModeList[0])->DisplayName, "translated");
   const char* const parts[] = {
       "ProductType= x&y ",
       "TranslationTable=t",
@@ -54,7 +56,7 @@ TEST(WriteDefinition, ListsHaveTheirElementsInOrder) {
       "DisplayName}}",
       "MediaList{MediaDef{ID=3 InternalName DisplayName=b IsCustomizableMedia=0} "
       "MediaDef{ID=1 InternalName DisplayName IsCustomizableMedia=2}}",
-      "PrintModeList{PrintModeDef{ID=1 InternalName=best DisplayName=Best}}",
+      "PrintModeList{PrintModeDef{ID=1 InternalName=best DisplayName=translated}}",
       "ResolutionList{ResolutionDef{ID=1 Value=600 DisplayName=600} "
       "ResolutionDef{ID=2 Value=720x360 DisplayName=720x360} "
       "ResolutionDef{ID=3 Value=600 DisplayName=600.5} "
@@ -65,20 +67,11 @@ TEST(WriteDefinition, ListsHaveTheirElementsInOrder) {
       "ColorModeList{ColorModeDef{ID=1 InternalName DisplayName=Two ColorantList{"
       "Color(IsSpotColor=1){InternalName DisplayName=Red ColorDepth=8} "
       "Color(IsSpotColor=0){InternalName DisplayName ColorDepth=1}}}}"};
-  EXPECT_EQ(Part(Written(*document), "Definition"),
-            "Definition{" + Join({std::begin(parts), std::end(parts)}, " ") + "}");
-}
-
-TEST(WriteDefinition, TranslatedNamesAreWrittenButForMedia) {
-  const auto document = LoadExample();
-  const DocumentMembers members(*document);
-  SetField(static_cast<MediaTypeInfo*>(members.MediaList[0])->DisplayName, "translated");
-  SetField(static_cast<PrintModeInfo*>(members.PrintModeList[0])->DisplayName, "translated");
   const std::string written = Written(*document);
-  EXPECT_EQ(Part(written, "MediaDef"),
-            "MediaDef{ID=3 InternalName DisplayName=b IsCustomizableMedia=0}");
-  EXPECT_EQ(Part(written, "PrintModeDef"),
-            "PrintModeDef{ID=1 InternalName=best DisplayName=translated}");
+  EXPECT_EQ(Part(written, "Definition"),
+            "Definition{" + Join({std::begin(parts), std::end(parts)}, " ") + "}");
+  const std::string second = Written(*LoadText(written));
+  EXPECT_EQ(Written(*LoadText(second)), second);
 }
 
 }  // namespace
