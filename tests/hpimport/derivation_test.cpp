@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <limits>
 #include <random>
 
 #include "qdf/hpimport/derivecontroltree.h"
