@@ -63,10 +63,10 @@ TEST(Codes, ExamplesGiveThemAndMendedOnesDoNot) {
       text = Replaced(tables.document, "Matte", "Matt\xE9");
     } else if (row.code != "unreadable") {
       ASSERT_FALSE(row.found.empty());
-      text = FoundText(tables, row);
+      text = TextWith(tables, row, Form::kFound);
     }
     const std::vector<std::string> found = CodesIn(text, choice);
-    const std::vector<std::string> mended = CodesIn(MendedText(tables, row), choice);
+    const std::vector<std::string> mended = CodesIn(TextWith(tables, row, Form::kMended), choice);
     EXPECT_THAT(found, testing::Contains(row.code));
     EXPECT_THAT(mended, testing::Not(testing::Contains(row.code)));
     if (choice.writeLoss) continue;  // a write loses more of this document
