@@ -65,15 +65,23 @@ void operator delete[](void* block, std::size_t) noexcept { Release(block); }
 void operator delete(void* block, std::align_val_t) noexcept { Release(block); }
 void operator delete(void* block, std::size_t, std::align_val_t) noexcept { Release(block); }
 
-void Attempt::Begin() {
+void Attempt::Try(const std::function<void()>& work) {
   memory.allowed = allowed_;
   memory.once = once_;
   memory.refused = false;
-}
-
-void Attempt::End() {
+  try {
+    work();
+  } catch (...) {
+    thrown_ = true;
+  }
   memory.allowed = kUnlimited;
   refused_ = memory.refused;
+}
+
+void Attempt::Expect(const std::function<int()>& work) {
+  int result = 0;
+  Try([&] { result = work(); });
+  EXPECT_EQ(result == 0, refused_);
 }
 
 void WithEveryAllocation(const char* what, const std::function<void(Attempt&)>& attempt) {
