@@ -126,23 +126,6 @@ TEST_F(CheckCommand, CutsLongLinesAndKeepsThePlace) {
                                         "...\r\n   | " + std::string(63, ' ') + "^~~~~\r\n"));
 }
 
-TEST_F(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
-  folder_.Write("bad.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
-  EXPECT_EQ(Run("check bad.qdf none.qdf"),
-            (Outcome{1,
-                     "bad.qdf:2:15: error: this end tag does not match its start tag "
-                     "[not-well-formed]\n"
-                     "  hint: correct the XML here; nothing else is examined until then\n"
-                     "bad.qdf: 1 error\n"
-                     "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
-                     "  hint: correct the path, or what it leads to\n"
-                     "OutputDrivers/none.qdf: 1 error\n"}));
-  folder_.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
-  EXPECT_EQ(Run("check wide.qdf").out,
-            "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
-            "  hint: save it as UTF-8\nwide.qdf: 1 error\n");
-}
-
 TEST_F(CheckCommand, AnswersWithExitCodes) {
   folder_.Write("OutputDrivers/good.qdf", ReadCodeTables().document);
   folder_.Write("OutputDrivers/Bad.QDF", "<QDF_Info/>");
@@ -150,38 +133,45 @@ TEST_F(CheckCommand, AnswersWithExitCodes) {
   folder_.Write("OutputDrivers/sub/other.qdf", "");
   folder_.Write("warns/d.qdf", PageWith("`1,2`", "`1,2` a=``"));
   folder_.Write("empty/readme", "");
+  folder_.Write("broken.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
+  folder_.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
   const std::string warning =
       "warns/d.qdf:52:29: warning: nobody reads the attribute a in PrintMode "
       "[attribute-unknown]\n  hint: take it out\nwarns/d.qdf: 1 warning\n";
   const std::string both =
       "OutputDrivers/Bad.QDF: no findings\nOutputDrivers/good.qdf: no findings\n";
-  const std::string nothing =
-      "empty: error: no *.qdf is in this folder [unreadable]\n"
-      "  hint: correct the path, or give the documents themselves\nempty: 1 error\n" +
-      both;
-  const struct {
-    const char* words;
-    int code;
-    const char *out, *err;
-  } rows[] = {
-      {"good.qdf", 0, "OutputDrivers/good.qdf: no findings\n", ""},
-      {"warns", 0, warning.c_str(), ""},
-      {"warns --werror", 1, warning.c_str(), ""},
-      {"warns/d.qdf --werror --ignore attribute-unknown", 0, "warns/d.qdf: no findings\n", ""},
-      {"--ignore definition-missing OutputDrivers", 0, both.c_str(), ""},
-      {"warns --ignore attribute-unkown", 2, "",
-       "qdf: there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
-       "element-unknown, id-unknown\n"},
-      {"warns --format xml", 2, "",
-       "qdf: there is no format \"xml\"; choose from text, json, sarif\n"},
-      {"warns --json --format sarif", 2, "", "qdf: --json contradicts --format sarif\n"},
-      {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers", 1,
-       nothing.c_str(), ""},
+  const std::pair<std::string, Outcome> rows[] = {
+      {"good.qdf", {0, "OutputDrivers/good.qdf: no findings\n"}},
+      {"warns", {0, warning}},
+      {"warns --werror", {1, warning}},
+      {"warns/d.qdf --werror --ignore attribute-unknown", {0, "warns/d.qdf: no findings\n"}},
+      {"--ignore definition-missing OutputDrivers", {0, both}},
+      {"warns --ignore attribute-unkown",
+       Refused("there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
+               "element-unknown, id-unknown",
+               2)},
+      {"warns --format xml",
+       Refused("there is no format \"xml\"; choose from text, json, sarif", 2)},
+      {"warns --json --format sarif", Refused("--json contradicts --format sarif", 2)},
+      {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers",
+       {1,
+        "empty: error: no *.qdf is in this folder [unreadable]\n"
+        "  hint: correct the path, or give the documents themselves\nempty: 1 error\n" +
+            both}},
+      {"broken.qdf none.qdf",
+       {1,
+        "broken.qdf:2:15: error: this end tag does not match its start tag [not-well-formed]\n"
+        "  hint: correct the XML here; nothing else is examined until then\n"
+        "broken.qdf: 1 error\n"
+        "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
+        "  hint: correct the path, or what it leads to\n"
+        "OutputDrivers/none.qdf: 1 error\n"}},
+      {"wide.qdf",
+       {1,
+        "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
+        "  hint: save it as UTF-8\nwide.qdf: 1 error\n"}},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Run(std::string("check ") + row.words), (Outcome{row.code, row.out, row.err}))
-        << row.words;
-  }
+  for (const auto& [words, outcome] : rows) EXPECT_EQ(Run("check " + words), outcome) << words;
 }
 
 TEST_F(CheckCommand, WritesSarif) {
