@@ -52,9 +52,6 @@ constexpr MessageRow kMessages[] = {
      "27:66: warning: `0x10` in Size isn't a plain number: Size is read as 595 and 16 "
      "[number-malformed]",
      "write 2 numbers with commas or blanks between them"},
-    {"<MediaSize ID=`1` MarginIDList=", "<MediaSize ID=`1` MarginID=",
-     "64:25: warning: nobody reads the attribute MarginID in MediaSize [attribute-unknown]",
-     "did you mean `MarginIDList`?"},
     {"Name=`Fine`", "Name=`fine`",
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",

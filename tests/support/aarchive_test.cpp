@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 #include "tests/files.h"
 
@@ -38,24 +39,18 @@ std::string Text(AArchive& archive) {
 }
 
 TEST_F(Archive, ReadsBackWhatWasWritten) {
-  unsigned int u = 0x80000001U;
-  unsigned long ul = 0x100000003UL;
-  float f = -1.0F;
-  double d = 2.5;
   AString bytes;
   std::copy_n("a\0\xFF\n", 4, bytes.GetBuffer(4));
   AArchive writing = Open(Direction::Writing);
-  writing << std::numeric_limits<int>::min() << u << ul << f << d << bytes;
+  writing << std::numeric_limits<int>::min() << 0x80000001U << 0x100000003UL << -1.0F << 2.5;
+  writing << bytes;
   EXPECT_EQ(writing.Close(), 1);
   EXPECT_EQ(ReadFile(path_).substr(0, 20), "\0\0\0\x80\x01\0\0\x80\x03\0\0\0\0\0\x80\xBF\0\0\0\0"s);
-  u = 0;
-  ul = 0;
-  f = 0;
-  d = 0;
+  std::tuple<unsigned int, unsigned long, float, double> numbers;
   AArchive archive = Open(Direction::Reading);
   EXPECT_EQ(Int(archive), std::numeric_limits<int>::min());
-  archive >> u >> ul >> f >> d;
-  EXPECT_TRUE(u == 0x80000001U && ul == 3UL && f == -1.0F && d == 2.5);
+  std::apply([&](auto&... number) { (archive >> ... >> number); }, numbers);
+  EXPECT_EQ(numbers, std::tuple(0x80000001U, 3UL, -1.0F, 2.5));
   EXPECT_EQ(Text(archive), "a\0\xFF\n"s);
   EXPECT_NE(archive.AtEnd(), 0);
   EXPECT_EQ(archive.IsDamaged(), 0);

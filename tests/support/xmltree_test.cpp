@@ -48,22 +48,18 @@ TEST(XMLTree, FindsTheFirstOfANameAndLeavesTheOutputOtherwise) {
   for (int i = -1; i < 5; ++i) {
     if (tree->getChild(i, root, child) != 0) found += tree->getAttribute(child, "x");
   }
-  EXPECT_EQ(found, "123");
-  EXPECT_EQ(tree->getName(child), "b");
-
+  EXPECT_EQ(found + tree->getName(child).operator const char*(), "123b");
   EXPECT_NE(tree->getItem("b", child), 0);
-  EXPECT_EQ(tree->getItem("c", child), 0);
-  EXPECT_EQ(tree->getChild("", root, child), 0);
-  const AXMLTreeNode copy = child;
-  EXPECT_EQ(tree->getAttribute(copy, "x"), "1");
-  EXPECT_EQ(tree->getAttribute(copy, "y") + tree->getAttribute(copy, "z"), "");
+  const AXMLTreeNode nothing;
+  AXMLTreeNode same = child;
+  EXPECT_EQ(tree->getItem("c", same) + tree->getChild("", root, same), 0);
+  EXPECT_EQ(tree->getChild(0, nothing, same) + tree->getChild("b", nothing, same), 0);
+  EXPECT_EQ(tree->getAttribute(same, "x"), "1");
+  EXPECT_EQ(tree->getAttribute(same, "y") + tree->getAttribute(same, "z"), "");
+  EXPECT_EQ(tree->getName(nothing) + tree->getValue(nothing), "");
   EXPECT_NE(tree->getChild(2, root, child), 0);
   EXPECT_NE(tree->getChild("c", child, child), 0);
   EXPECT_EQ(tree->getChildCount(child), 0);
-
-  const AXMLTreeNode nothing;
-  EXPECT_EQ(tree->getChild(0, nothing, child) + tree->getChild("b", nothing, child), 0);
-  EXPECT_EQ(tree->getName(nothing) + tree->getValue(nothing), "");
   tree->removeAll(0);
   EXPECT_EQ(tree->getRootNode(root), 0);
 }
