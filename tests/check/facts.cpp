@@ -135,14 +135,13 @@ Facts FactsOfFile(const std::string& path) {
 
 // Nodes have fields that programs alone see, and so have colorants: those that no document gives.
 void AddShown(Facts& facts, const Value& value, const std::string& place) {
-  const List* list = AsList(value);
-  const Object* object = AsObject(value);
-  if (list == nullptr && object == nullptr) Add(facts, place, ValuesOf(LineText(value)));
-  for (std::size_t i = 0; list != nullptr && i < list->size(); ++i) {
-    AddShown(facts, (*list)[i], place);
+  if (const List* list = AsList(value)) {
+    for (const Value& each : *list) AddShown(facts, each, place);
+    return;
   }
-  for (std::size_t i = 0; object != nullptr && i < object->fields.size(); ++i) {
-    const Field& field = object->fields[i];
+  const Object* object = AsObject(value);
+  if (object == nullptr) return Add(facts, place, ValuesOf(LineText(value)));
+  for (const Field& field : object->fields) {
     const bool isOfNode = place.find('/') != std::string::npos;
     if (field.key != std::string_view(kChildren)) {
       if (field.label != nullptr || isOfNode) AddShown(facts, field.value, place);

@@ -6,23 +6,15 @@
 #include <functional>
 
 // One run of an operation with little memory. What stands around it has plenty.
-class Attempt {
- public:
-  // After so many allocations one fails: that one alone, or all behind it as well.
-  Attempt(long allowed, bool once) : allowed_(allowed), once_(once) {}
-
+struct Attempt {
   void Try(const std::function<void()>& work);
   // The same with work that must answer 0 exactly when memory is refused.
   void Expect(const std::function<int()>& work);
 
-  bool Refused() const { return refused_; }
-  bool Thrown() const { return thrown_; }
-
- private:
-  long allowed_;
-  bool once_;
-  bool refused_ = false;
-  bool thrown_ = false;
+  const long allowed;  // after so many allocations one fails
+  const bool once;     // that one alone rather than all behind it as well
+  bool refused = false;
+  bool thrown = false;
 };
 
 // Repeats it with one allocation more each time, until it needs no more than it gets. Nothing may

@@ -32,10 +32,8 @@ class NoMemory : public testing::Test {
     Example();  // what is allocated once, at the first use, is there
   }
 
-  const TempFolder& Folder() const { return folder_; }
   static std::unique_ptr<APMQDF> Example() { return LoadFile("OutputDrivers/dyesub6.qdf"); }
 
- private:
   TempFolder folder_;
   WorkingFolder in_{folder_.Path()};
 };
@@ -44,7 +42,7 @@ TEST_F(NoMemory, LoadsGiveNothing) {
   WithEveryAllocation("load by name", [&](Attempt& attempt) {
     APMQDF* document = nullptr;
     attempt.Try([&] { PMGetQDFInterfaceFromName("plot36.qdf", &document); });
-    EXPECT_EQ(document == nullptr, attempt.Refused());
+    EXPECT_EQ(document == nullptr, attempt.refused);
     delete document;
   });
   std::string media = "1";
@@ -54,21 +52,21 @@ TEST_F(NoMemory, LoadsGiveNothing) {
     nodes += ';' + std::to_string(id) + "[1[1[1]]]";
   }
   const DocumentText many{.MediaList = Entries(media), .Control = Control("[1[" + nodes + "]]")};
-  AFilePath path(Folder().Write("many.qdf", many.Text()).c_str());
+  AFilePath path(folder_.Write("many.qdf", many.Text()).c_str());
   WithEveryAllocation("load of a node with an index", [&](Attempt& attempt) {
     APMQDF document;
     attempt.Expect([&] { return document.LoadQDFFile(path); });
     std::vector<PrintModeInfo> modes;
     int at = 0;
     const int found = document.GetPrintModeList(1, 99, modes, at);
-    EXPECT_TRUE(attempt.Refused() || found == 1);
+    EXPECT_TRUE(attempt.refused || found == 1);
   });
   WithEveryAllocation("load of a tree", [&](Attempt& attempt) {
     AXMLTree tree("RootElement");
     attempt.Expect([&] { return tree.loadFromFile(path, 1); });
     AXMLTreeNode root;
-    EXPECT_EQ(tree.getRootNode(root) == 0, attempt.Refused());
-    EXPECT_EQ(tree.loadFault().Reason, attempt.Refused() ? "out of memory" : "");
+    EXPECT_EQ(tree.getRootNode(root) == 0, attempt.refused);
+    EXPECT_EQ(tree.loadFault().Reason, attempt.refused ? "out of memory" : "");
   });
 }
 
@@ -82,8 +80,8 @@ void CheckQuestion(APMQDF& document, Ask ask, Default former, ID... ids) {
     std::vector<Record> records(1);
     preselected = former;
     attempt.Expect([&] { return (document.*ask)(ids..., records, preselected); });
-    EXPECT_TRUE(!attempt.Refused() || preselected == Default());
-    EXPECT_EQ(records.size(), attempt.Refused() ? 1 : 1 + all.size());
+    EXPECT_TRUE(!attempt.refused || preselected == Default());
+    EXPECT_EQ(records.size(), attempt.refused ? 1 : 1 + all.size());
   });
 }
 
@@ -136,7 +134,7 @@ TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
     WithEveryAllocation(what, [&](Attempt& attempt) {
       AString text;
       attempt.Expect([&] { return ask(text); });
-      EXPECT_EQ(text.GetLength() == 0, attempt.Refused());
+      EXPECT_EQ(text.GetLength() == 0, attempt.refused);
     });
   }
   const auto example = Example();
@@ -147,7 +145,7 @@ TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
     for (int i = 0; i < 3; ++i) AddChildNode(target);
     const std::string former = Dump(target);
     attempt.Expect([&] { return document->PMCopyMediaSourceTreeRoot(source, &target) ? 1 : 0; });
-    EXPECT_EQ(Dump(target) == former, attempt.Refused());
+    EXPECT_EQ(Dump(target) == former, attempt.refused);
   });
 }
 
@@ -164,14 +162,14 @@ TEST_F(NoMemory, WritesGiveTheFormerFileOrTheNewOne) {
     const auto document = Load(text);
     WriteFile("written.qdf", "former");
     attempt.Try([&] { document->PMWriteQDF(path); });
-    EXPECT_EQ(ReadFile("written.qdf"), attempt.Refused() ? "former" : whole);
+    EXPECT_EQ(ReadFile("written.qdf"), attempt.refused ? "former" : whole);
   });
 }
 
 // A table loses no more than the line for which there is no memory.
 TEST_F(NoMemory, LocalisesLineByLine) {
   const std::string translation(100, 't');
-  Folder().Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
+  folder_.Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
   const DocumentText text{.InkList = Entries("1=One;2=Two"),
                           .Definition = "<TranslationTable>t</TranslationTable>"};
   bool met[2][2] = {};
@@ -183,7 +181,7 @@ TEST_F(NoMemory, LocalisesLineByLine) {
     const bool second = Str(inks[1].DisplayName) == translation;
     EXPECT_TRUE(first || Str(inks[0].DisplayName) == "One");
     EXPECT_TRUE(second || Str(inks[1].DisplayName) == "Two");
-    EXPECT_EQ(first && second, !attempt.Refused());
+    EXPECT_EQ(first && second, !attempt.refused);
     met[first][second] = true;
   });
   EXPECT_TRUE(met[false][false] && met[true][false] && met[false][true]);
@@ -225,7 +223,7 @@ TEST_F(NoMemory, CustomMediaKeepTheirFile) {
       attempt.Expect([&] { return work(*media); });
       media.reset();
       // What a set that failed removes is told to be gone.
-      const bool mayLack = !attempt.Refused() || what.starts_with("set");
+      const bool mayLack = !attempt.refused || what.starts_with("set");
       EXPECT_TRUE(mayLack || ReadFile("media.txt") == lines);
     });
   }
@@ -242,7 +240,7 @@ TEST_F(NoMemory, ArchivesTellThatTheyLackSomething) {
       archive << option;
       return archive.Close();
     });
-    EXPECT_EQ(ReadFile("archive") == "former", attempt.Refused());
+    EXPECT_EQ(ReadFile("archive") == "former", attempt.refused);
   });
   WithEveryAllocation("read from an archive", [&](Attempt& attempt) {
     ANewColorOpt read;
@@ -251,12 +249,12 @@ TEST_F(NoMemory, ArchivesTellThatTheyLackSomething) {
       archive >> read;
       return archive.Close();
     });
-    EXPECT_TRUE(attempt.Refused() || read == option);
+    EXPECT_TRUE(attempt.refused || read == option);
   });
 }
 
 TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
-  WriteResource(Folder(), "tree", {});
+  WriteResource(folder_, "tree", {});
   const AFilePath path("dyesub6.qdf");
   AFilePath tree("tree");
   PMUpdateQDF(path, tree);
@@ -267,13 +265,13 @@ TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
     attempt.Try([&] { PMUpdateQDF(path, tree); });
     // A sort does without the memory that it asks for.
     const std::string bytes = ReadFile("dyesub6.qdf");
-    EXPECT_TRUE(bytes == whole || (attempt.Refused() && bytes == "former")) << bytes.size();
+    EXPECT_TRUE(bytes == whole || (attempt.refused && bytes == "former")) << bytes.size();
   });
   WithEveryAllocation("sweep", [&](Attempt& attempt) {
-    Folder().Write("tree/Empty/file", "");
+    folder_.Write("tree/Empty/file", "");
     attempt.Try([&] { PMCheckHPXMLVersion(tree); });
     EXPECT_NE(AFilePath("tree/Glossy/best/Glossy_best.xml").exists(), 0);
-    EXPECT_TRUE(attempt.Refused() || AFilePath("tree/Empty").exists() == 0);
+    EXPECT_TRUE(attempt.refused || AFilePath("tree/Empty").exists() == 0);
   });
 }
 

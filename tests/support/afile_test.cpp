@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <tuple>
 #include <vector>
 
 #include "tests/files.h"
@@ -38,11 +39,7 @@ std::string Pieces(const std::string& path, unsigned int capacity) {
 
 TEST(StdioFile, ReadsLinesInPiecesThatFitTheBuffer) {
   const TempFolder folder;
-  const struct {
-    std::string bytes;
-    unsigned int capacity;
-    std::string pieces;
-  } rows[] = {
+  const std::tuple<std::string, unsigned int, std::string> rows[] = {
       {"", 9, ""},
       {"a\n\nb", 9, "1:a\n|2:\n|3:b"},
       {"abc", 1, ""},
@@ -52,8 +49,8 @@ TEST(StdioFile, ReadsLinesInPiecesThatFitTheBuffer) {
       {"a\r\n", 9, "1:a\r\n"},
       {"ab\0cd\ne"s, 9, "1:ab|2:e"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Pieces(folder.Write("file", row.bytes), row.capacity), row.pieces) << row.bytes;
+  for (const auto& [bytes, capacity, pieces] : rows) {
+    EXPECT_EQ(Pieces(folder.Write("file", bytes), capacity), pieces) << bytes;
   }
 }
 

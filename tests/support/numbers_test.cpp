@@ -28,19 +28,16 @@ bool Same(double a, double b) {
   return (std::isnan(a) && std::isnan(b)) || std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-const std::vector<std::string>& Texts() {
-  static const std::vector<std::string> texts = Split(
-      "| |0|-0|7|720|600 dpi|600,5|0.5|.5|5.|-.5e1x|1e|1e+|1e5|1E-3|0x10|0x|0x1p3|0X.8|inf|"
-      "-Infinity|nan|NAN(1)|+3|+-3|--3|- 7|-12.9|007|\t\n\v\f\r 8|\xA0 "
-      "8|abc|12abc|e5|.|-|1_000|1\n2|"
-      "1e999|-1e999|1e-999|123456789012345|1234567890123456|9007199254740993|123456789012345.5|"
-      "00000000000000000000012|4.9e-324|1.7976931348623157e308|2147483647|2147483648|-2147483648|"
-      "-2147483649|99999999999999999999|-99999999999999999999");
-  return texts;
-}
+const std::vector<std::string> kTexts = Split(
+    "| |0|-0|7|720|600 dpi|600,5|0.5|.5|5.|-.5e1x|1e|1e+|1e5|1E-3|0x10|0x|0x1p3|0X.8|inf|"
+    "-Infinity|nan|NAN(1)|+3|+-3|--3|- 7|-12.9|007|\t\n\v\f\r 8|\xA0 "
+    "8|abc|12abc|e5|.|-|1_000|1\n2|"
+    "1e999|-1e999|1e-999|123456789012345|1234567890123456|9007199254740993|123456789012345.5|"
+    "00000000000000000000012|4.9e-324|1.7976931348623157e308|2147483647|2147483648|-2147483648|"
+    "-2147483649|99999999999999999999|-99999999999999999999");
 
 TEST(Numbers, AreWhatTheCLibraryReads) {
-  for (const std::string& text : Texts()) {
+  for (const std::string& text : kTexts) {
     EXPECT_TRUE(Same(ReadDouble(text), std::strtod(text.c_str(), nullptr))) << '"' << text << '"';
     const long whole = std::strtol(text.c_str(), nullptr, 10);
     EXPECT_EQ(ReadInt(text.c_str()), std::clamp<long>(whole, kMin, kMax)) << '"' << text << '"';
@@ -95,19 +92,18 @@ TEST(Numbers, AreCutWithoutLeavingTheirType) {
   EXPECT_EQ(NarrowToFloat(0.1), 0.1F);
   EXPECT_EQ(NarrowToFloat(1e300), kLargest);
   EXPECT_EQ(NarrowToFloat(-1e39), -kLargest);
-  EXPECT_TRUE(std::isinf(NarrowToFloat(kInfinity)));
-  EXPECT_TRUE(std::isnan(NarrowToFloat(kNaN)));
+  EXPECT_TRUE(std::isinf(NarrowToFloat(kInfinity)) && std::isnan(NarrowToFloat(kNaN)));
 }
 
 // The host has chosen one with a decimal comma.
 TEST(Numbers, DontFollowTheLocaleOfTheHost) {
   std::vector<double> expected;
-  for (const std::string& text : Texts()) expected.push_back(ReadDouble(text));
+  for (const std::string& text : kTexts) expected.push_back(ReadDouble(text));
   if (setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
     GTEST_SKIP() << "no locale de_DE.UTF-8; scripts/setup makes it";
   }
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_TRUE(Same(ReadDouble(Texts()[i]), expected[i])) << Texts()[i];
+    EXPECT_TRUE(Same(ReadDouble(kTexts[i]), expected[i])) << kTexts[i];
   }
   double x = 0;
   double y = 0;

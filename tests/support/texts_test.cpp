@@ -1,4 +1,4 @@
-// AString, the arrays and AFilePath.
+// AString, the arrays, the map and AFilePath.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,7 @@
 
 #include "qdf/support/aarrays.h"
 #include "qdf/support/afilepath.h"
+#include "qdf/support/amapstringtoptr.h"
 #include "qdf/support/astring.h"
 #include "tests/documents.h"
 #include "tests/files.h"
@@ -91,15 +92,51 @@ TEST(Arrays, AppendTheirOwnElementsAndInsertAnywhere) {
 
   APtrArray pointers;
   int items[5] = {};
-  pointers.InsertAt(3, &items[2], 1);
-  pointers.InsertAt(0, &items[0], 1);
-  pointers.InsertAt(1, &items[1], 1);
-  pointers.InsertAt(3, &items[3], 1);
+  const std::pair<int, int> inserted[] = {{3, 2}, {0, 0}, {1, 1}, {3, 3}};
+  for (const auto& [at, item] : inserted) pointers.InsertAt(at, &items[item], 1);
   pointers.InsertAt(-1, &items[4], 0);
   ASSERT_EQ(pointers.GetSize(), 4);
   for (int i = 0; i < 4; ++i) EXPECT_EQ(pointers.GetAt(i), &items[i]) << i;
   pointers.SetSize(0, -1);
   EXPECT_EQ(pointers.GetSize(), 0);
+}
+
+// "b1 a2": the entries in the order of the map, which may lose each behind its delivery.
+std::string Dump(AMapStringToPtr& map, bool remove = false) {
+  std::string entries;
+  AString key;
+  void* value = nullptr;
+  void* position = map.GetStartPosition();
+  while (position != nullptr) {
+    map.GetNextAssoc(position, key, value);
+    entries.append(entries.empty() ? "" : " ").append(key).append(static_cast<const char*>(value));
+    if (remove) map.RemoveKey(key);
+  }
+  return entries;
+}
+
+TEST(MapStringToPtr, KeepsKeysInTheOrderInWhichTheyCame) {
+  char texts[3][2] = {"1", "2", "3"};
+  AMapStringToPtr map(10);
+  EXPECT_EQ(Dump(map), "");
+  map.SetAt("b", texts[0]);
+  map.SetAt("a", texts[1]);
+  map.SetAt("B", texts[2]);
+  map.SetAt("b", texts[2]);
+  EXPECT_EQ(Dump(map), "b3 a2 B3");
+  EXPECT_NE(map.RemoveKey("a"), 0);
+  EXPECT_EQ(map.RemoveKey("a"), 0);
+  map.SetAt("a", texts[0]);
+  EXPECT_EQ(Dump(map, true), "b3 B3 a1");
+  EXPECT_EQ(map.GetCount(), 0);
+  map.SetAt("c", texts[0]);
+  void* value = texts;
+  EXPECT_EQ(map.Lookup("C", value) + map.Lookup("a", value), 0);
+  EXPECT_EQ(value, texts);
+  EXPECT_NE(map.Lookup("c", value), 0);
+  EXPECT_EQ(value, texts[0]);
+  map.RemoveAll();
+  EXPECT_EQ(Dump(map), "");
 }
 
 TEST(AFilePath, JoinsWithOneSeparator) {
