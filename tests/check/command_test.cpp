@@ -172,36 +172,33 @@ TEST_F(CheckCommand, AnswersWithExitCodes) {
 }
 
 TEST_F(CheckCommand, WritesSarif) {
-  // A character of two bytes and one of four stand before the finding: one and two code units.
+  // A character of two bytes and one of four stand before the finding: one and two code units. In
+  // the other document a byte order mark does, which is no column.
   const std::string path = folder_.Write(
       "d \xC3\xA9.qdf", "<QDF_Info><!-- \xC3\xA9\xF0\x9F\x96\xA8 --><Definition/></QDF_Info>");
-  const Outcome outcome = RunTool({"check", "--format", "sarif", path, "none.qdf"});
-  const json log = json::parse(outcome.out, nullptr, false);
+  const std::string marked = folder_.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
+  const Outcome outcome = RunTool({"check", "--format", "sarif", path, marked, "none.qdf"});
   EXPECT_EQ(outcome.code, 1);
+  const json log = json::parse(outcome.out, nullptr, false);
   EXPECT_EQ(log["version"], "2.1.0");
   const json& run = log["runs"][0];
   EXPECT_EQ(run["columnKind"], "utf16CodeUnits");
   EXPECT_EQ(run["tool"]["driver"]["name"], "qdf");
-  const json& rules = run["tool"]["driver"]["rules"];
-  ASSERT_EQ(run["results"].size(), 6U);
+  ASSERT_EQ(run["results"].size(), 7U);
   for (const json& result : run["results"]) {
-    const json& rule = rules[result["ruleIndex"].get<std::size_t>()];
+    const json& rule = run["tool"]["driver"]["rules"][result["ruleIndex"].get<std::size_t>()];
     EXPECT_EQ(result["ruleId"], rule["id"]);
     EXPECT_EQ(result["level"], rule["defaultConfiguration"]["level"]);
   }
-  json place = run["results"][0]["locations"][0];
-  EXPECT_EQ(place["physicalLocation"]["artifactLocation"]["uri"],
-            "file://" + folder_.Path() + "/d%20%C3%A9.qdf");
-  EXPECT_EQ(place["physicalLocation"]["region"],
-            json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
-  EXPECT_EQ(place["logicalLocations"][0]["fullyQualifiedName"], "/QDF_Info/Definition");
-  // A byte order mark at the beginning is no column.
-  const std::string marked = folder_.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
-  const json alone = json::parse(RunTool({"check", "--format", "sarif", marked}).out);
-  EXPECT_EQ(alone["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["region"],
+  const auto place = [&](int at) { return run["results"][at]["locations"][0]; };
+  EXPECT_EQ(place(0), json::parse(Replaced(R"({"physicalLocation": {
+      "artifactLocation": {"uri": "file://FOLDER/d%20%C3%A9.qdf"},
+      "region": {"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34}},
+      "logicalLocations": [{"fullyQualifiedName": "/QDF_Info/Definition", "kind": "element"}]})",
+                                           "FOLDER", folder_.Path())));
+  EXPECT_EQ(place(5)["physicalLocation"]["region"],
             json::parse(R"({"startLine": 1, "startColumn": 2, "endLine": 1, "endColumn": 10})"));
-  place = run["results"][5]["locations"][0];
-  EXPECT_FALSE(place["physicalLocation"].contains("region"));
+  EXPECT_FALSE(place(6)["physicalLocation"].contains("region"));
 }
 
 }  // namespace

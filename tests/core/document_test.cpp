@@ -47,15 +47,13 @@ TEST(OptionTree, IsCopiedOntoWhatIsThere) {
   CQDFNode target;
   EXPECT_FALSE(document.PMCopyMediaSourceTreeRoot(nullptr, &target));
   EXPECT_EQ(Dump(target), "");
-  {
-    const auto other =
-        Load({.InkList = Entries("1;2"), .Control = Control(">2[1,2>3[1>4[1>5[1]];1]]")});
-    CQDFNode& source = DocumentMembers(*other).ControlTreeRoot;
-    source.IDs = Array({9, 9});
-    source.Children.InsertAt(0, nullptr, 1);
-    EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
-    EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
-  }
+  auto other = Load({.InkList = Entries("1;2"), .Control = Control(">2[1,2>3[1>4[1>5[1]];1]]")});
+  CQDFNode& source = DocumentMembers(*other).ControlTreeRoot;
+  source.IDs = Array({9, 9});
+  source.Children.InsertAt(0, nullptr, 1);
+  EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
+  EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
+  other.reset();
   EXPECT_EQ(Dump(target), "9,9,9,9>2[1,2>3[1>4[1>5[1]];1];1,2>3[1>4[1>5[1]];1]]");
 }
 
