@@ -19,9 +19,6 @@ struct MessageRow {
 };
 
 constexpr MessageRow kMessages[] = {
-    {"<Value>600</Value>", "<Vaule/><Value>600</Value>",
-     "19:33: warning: nobody reads Vaule in ResolutionDef [element-unknown]",
-     "did you mean `Value`?"},
     {"<Ink ID=`1`", "<Media ID=`1`><PrintMode/></Media><Ink ID=`1`",
      "39:6: warning: nobody reads Media in Control_Definition, nor what is under it (1 element) "
      "[element-unknown]",

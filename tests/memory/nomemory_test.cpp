@@ -130,10 +130,10 @@ TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
       {"product type",
        [&](AString& text) { return (text = document->GetProdcutType()).GetLength(); }},
       {"printer specific text", askOEMInfo}};
-  for (const auto& [what, ask] : rows) {
-    WithEveryAllocation(what, [&](Attempt& attempt) {
+  for (const auto& row : rows) {
+    WithEveryAllocation(row.first, [&](Attempt& attempt) {
       AString text;
-      attempt.Expect([&] { return ask(text); });
+      attempt.Expect([&] { return row.second(text); });
       EXPECT_EQ(text.GetLength() == 0, attempt.refused);
     });
   }
@@ -215,15 +215,15 @@ TEST_F(NoMemory, CustomMediaKeepTheirFile) {
        }},
   };
   AFilePath path("media.txt");
-  for (const auto& [what, work] : rows) {
-    WithEveryAllocation(what.c_str(), [&](Attempt& attempt) {
+  for (const auto& row : rows) {
+    WithEveryAllocation(row.first.c_str(), [&](Attempt& attempt) {
       WriteFile("media.txt", lines);
       std::optional<Media> media(path);
       media->LoadCustomMediaFile();
-      attempt.Expect([&] { return work(*media); });
+      attempt.Expect([&] { return row.second(*media); });
       media.reset();
       // What a set that failed removes is told to be gone.
-      const bool mayLack = !attempt.refused || what.starts_with("set");
+      const bool mayLack = !attempt.refused || row.first.starts_with("set");
       EXPECT_TRUE(mayLack || ReadFile("media.txt") == lines);
     });
   }

@@ -105,18 +105,6 @@ TEST_F(Archive, ReadsZerosWhereLengthsLeadBeyondTheEnd) {
   }
 }
 
-TEST_F(Archive, NestsGroupsDeeply) {
-  constexpr int kDepth = 100000;
-  for (const Direction direction : {Direction::Writing, Direction::Reading}) {
-    AArchive archive = Open(direction);
-    for (int i = 0; i < kDepth; ++i) archive.TagStart().Tag(0);
-    if (direction == Direction::Writing) archive << 7;
-    EXPECT_TRUE(direction == Direction::Writing || Int(archive) == 7);
-    for (int i = 0; i < kDepth; ++i) archive.TagEnd();
-    EXPECT_EQ(archive.Close(), 1);
-  }
-}
-
 TEST_F(Archive, TellsWhenNothingCouldBeReadOrSaved) {
   AArchive missing = Open(Direction::Reading);
   EXPECT_EQ(missing.IsOpen(), 0);
