@@ -187,7 +187,7 @@ TEST_F(CheckCommand, WritesSarif) {
     EXPECT_EQ(result["ruleId"], rule["id"]);
     EXPECT_EQ(result["level"], rule["defaultConfiguration"]["level"]);
   }
-  const auto place = [&](int at) { return run["results"][at]["locations"][0]; };
+  const auto place = [&](std::size_t at) { return run["results"][at]["locations"][0]; };
   EXPECT_EQ(place(0), json::parse(Replaced(R"({"physicalLocation": {
       "artifactLocation": {"uri": "file://FOLDER/d%20%C3%A9.qdf"},
       "region": {"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34}},
