@@ -8,61 +8,9 @@
 #include "tests/check/facts.h"
 #include "tests/documents.h"
 #include "tool/check/origins.h"
+#include "tool/compare/changes.h"
 
 namespace {
-
-template <class Wanted>
-bool FindsRule(const check::Examination& examination, Wanted wanted) {
-  return std::any_of(examination.findings.begin(), examination.findings.end(),
-                     [&](const check::Finding& finding) { return wanted(*finding.rule); });
-}
-
-bool IsWriteLoss(const check::Rule& rule) {
-  return std::string_view(rule.name).starts_with("write-");
-}
-
-// The first that is missing, empty when none is.
-std::string Missing(const Facts& wanted, const Facts& there) {
-  Facts missing;
-  std::set_difference(wanted.begin(), wanted.end(), there.begin(), there.end(),
-                      std::back_inserter(missing));
-  return missing.empty() ? "" : missing.front();
-}
-
-// By place what is preselected of inks and margins, whose defaults a write doesn't keep.
-std::string Preselected(APMQDF& document) {
-  std::string text;
-  const auto add = [&](const auto& records, int position) {
-    const bool is = position < static_cast<int>(records.size());
-    text += is ? std::to_string(records[static_cast<std::size_t>(position)].ID) + ' ' : "- ";
-  };
-  std::vector<InkTypeInfo> inks;
-  int position = 0;
-  document.GetInkTypeList(inks, position);
-  add(inks, position);
-  std::vector<MediaSourceInfo> sources;
-  document.GetMediaSourceList(sources, position);
-  for (const MediaSourceInfo& source : sources) {
-    std::vector<MediaSizeInfo> sizes;
-    document.GetMediaSizeList(source.ID, sizes, position);
-    for (const MediaSizeInfo& size : sizes) {
-      std::vector<MarginInfo> margins;
-      document.GetMarginInfoList(source.ID, size.ID, margins, position);
-      add(margins, position);
-    }
-  }
-  return text;
-}
-
-// All facts but those that Preselected tells.
-Facts KeptFacts(APMQDF& document) {
-  Facts facts = FactsOf(document);
-  std::erase_if(facts, [](const std::string& fact) {
-    return fact.find(" DefaultInk") != std::string::npos ||
-           fact.find(" DefaultMarginID") != std::string::npos;
-  });
-  return facts;
-}
 
 std::string WriteDisagreement(APMQDF& document, const std::string& scratch) {
   AFilePath path(scratch.c_str());
@@ -70,9 +18,10 @@ std::string WriteDisagreement(APMQDF& document, const std::string& scratch) {
   const std::unique_ptr<APMQDF> written = LoadFile(scratch);
   std::remove(scratch.c_str());
   if (written == nullptr) return "the written document is refused";
-  if (Preselected(document) != Preselected(*written)) return "a write loses a default";
-  const std::string lost = Missing(KeptFacts(document), KeptFacts(*written));
-  return lost.empty() ? "" : "a write loses without a word: " + lost;
+  Object report;
+  const Difference difference = AddChanges(Comparison(document, *written), Shown::kChanges, report);
+  const bool isSame = difference == Difference::kNone || difference == Difference::kUnknown;
+  return isSame ? "" : "a write loses without a word: " + RenderText(report, false);
 }
 
 // The leaves below the last level come from elements of other kinds, no walk takes a node without
@@ -91,17 +40,12 @@ bool SameTree(const check::ElementNode& element, const CQDFNode& node, int level
                     children.end(), isSame);
 }
 
-bool HasOrigins(const std::string& path, APMQDF& document) {
-  const check::Origins origins(path);
-  const DocumentMembers members(document);
-  return SameTree(origins.Control(), members.ControlTreeRoot, 5) &&
-         SameTree(origins.Sources(), members.MediaSourceTreeRoot, 3);
-}
-
 }  // namespace
 
 bool Finds(const check::Examination& examination, check::Severity severity) {
-  return FindsRule(examination, [&](const auto& rule) { return rule.severity == severity; });
+  return std::any_of(
+      examination.findings.begin(), examination.findings.end(),
+      [&](const check::Finding& finding) { return finding.rule->severity == severity; });
 }
 
 std::string Disagreement(const std::string& path, const std::string& scratch) {
@@ -111,9 +55,19 @@ std::string Disagreement(const std::string& path, const std::string& scratch) {
   if (refused != (document == nullptr)) {
     return refused ? "a document with an error loads" : "a document without errors is refused";
   }
-  if (!refused && !HasOrigins(path, *document)) return "a node has another element's ids";
-  if (refused || Finds(examination, check::Severity::kWarning)) return "";
-  const std::string lost = Missing(FactsOfFile(path), FactsOf(*document));
+  if (refused) return "";
+  const check::Origins origins(path);
+  const DocumentMembers members(*document);
+  if (!SameTree(origins.Control(), members.ControlTreeRoot, 5) ||
+      !SameTree(origins.Sources(), members.MediaSourceTreeRoot, 3)) {
+    return "a node has another element's ids";
+  }
+  if (Finds(examination, check::Severity::kWarning)) return "";
+  const std::string lost = LostOf(path);
   if (!lost.empty()) return "the object lacks without a warning: " + lost;
-  return FindsRule(examination, IsWriteLoss) ? "" : WriteDisagreement(*document, scratch);
+  const bool losesByWrite = std::any_of(
+      examination.findings.begin(), examination.findings.end(), [](const auto& finding) {
+        return std::string_view(finding.rule->name).starts_with("write-");
+      });
+  return losesByWrite ? "" : WriteDisagreement(*document, scratch);
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "qdf/support/text.h"
@@ -9,19 +10,13 @@
 
 namespace {
 
-std::string Between(const std::string& text, const std::string& begin, const std::string& end) {
-  const std::size_t from = text.find(begin) + begin.size();
-  return text.substr(from, text.find(end, from) - from);
-}
-
 // The pieces in backticks.
 std::vector<std::string> Fragments(const std::string& cell) {
   std::vector<std::string> fragments;
-  std::size_t open = cell.find('`');
-  while (open != std::string::npos) {
-    const std::size_t close = cell.find('`', open + 1);
-    fragments.push_back(cell.substr(open + 1, close - open - 1));
-    open = cell.find('`', close + 1);
+  std::istringstream stream(cell);
+  for (std::string between, fragment;
+       std::getline(stream, between, '`') && std::getline(stream, fragment, '`');) {
+    fragments.push_back(fragment);
   }
   return fragments;
 }
@@ -34,35 +29,13 @@ std::vector<std::string> CellsOf(const std::string& line) {
   return cells;
 }
 
-// The document with each of these pieces in it, which takes the place of the other if need be.
-std::string With(std::string document, const std::vector<std::string>& wanted,
-                 const std::vector<std::string>& others) {
-  EXPECT_EQ(wanted.size(), others.size());
-  for (std::size_t i = 0; i < wanted.size(); ++i) {
-    const std::size_t at = document.find(others[i]);
-    if (at == std::string::npos) {
-      EXPECT_NE(document.find(wanted[i]), std::string::npos) << wanted[i];
-      continue;
-    }
-    EXPECT_EQ(document.find(others[i], at + 1), std::string::npos) << others[i];
-    document.replace(at, others[i].size(), wanted[i]);
-  }
-  return document;
-}
-
-bool Holds(const std::string& document, const std::vector<std::string>& pieces) {
-  for (const std::string& piece : pieces) {
-    if (document.find(piece) == std::string::npos) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 CodeTables ReadCodeTables() {
   const std::string page = ReadFile(QDF_EXAMPLES "/../docs/checks.md");
   CodeTables tables;
-  tables.document = Between(page, "```xml\n", "```");
+  const std::size_t begin = page.find("```xml\n") + 7;
+  tables.document = page.substr(begin, page.find("```", begin) - begin);
   std::istringstream codes(page.substr(page.find("### ")));
   for (std::string line; std::getline(codes, line);) {
     const std::vector<std::string> cells = CellsOf(line);
@@ -72,13 +45,22 @@ CodeTables ReadCodeTables() {
   return tables;
 }
 
-// Where the document has the pieces that are wanted already, it stays as it is.
-std::string FoundText(const CodeTables& tables, const CodeRow& row) {
-  const bool has = Holds(tables.document, row.found);
-  return has ? tables.document : With(tables.document, row.found, row.mended);
-}
-
-std::string MendedText(const CodeTables& tables, const CodeRow& row) {
-  const bool has = !Holds(tables.document, row.found);
-  return has ? tables.document : With(tables.document, row.mended, row.found);
+// Each piece takes the place of its counterpart; some stand there already.
+std::string TextWith(const CodeTables& tables, const CodeRow& row, Form form) {
+  const auto stands = [&](const std::string& piece) {
+    return tables.document.find(piece) != std::string::npos;
+  };
+  const bool isFound = std::all_of(row.found.begin(), row.found.end(), stands);
+  if (isFound == (form == Form::kFound)) return tables.document;
+  const auto& wanted = form == Form::kFound ? row.found : row.mended;
+  const auto& others = form == Form::kFound ? row.mended : row.found;
+  std::string text = tables.document;
+  for (std::size_t i = 0; i < wanted.size(); ++i) {
+    const std::string& other = others.at(i);
+    const std::size_t at = text.find(other);
+    EXPECT_TRUE(at != std::string::npos || stands(wanted[i])) << wanted[i];
+    EXPECT_EQ(at, text.rfind(other)) << "it stands twice: " << other;
+    if (at != std::string::npos) text.replace(at, other.size(), wanted[i]);
+  }
+  return text;
 }

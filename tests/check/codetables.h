@@ -20,6 +20,7 @@ struct CodeTables {
 
 CodeTables ReadCodeTables();
 
-// The document with the finding of a row, and the mended one.
-std::string FoundText(const CodeTables& tables, const CodeRow& row);
-std::string MendedText(const CodeTables& tables, const CodeRow& row);
+enum class Form { kFound, kMended };
+
+// The document with the finding of a row, or the mended one.
+std::string TextWith(const CodeTables& tables, const CodeRow& row, Form form);

@@ -13,15 +13,12 @@ using CheckCommand = QdfTest;
 using nlohmann::json;
 
 // Places and words, one row for each kind of message that the examples of the page don't show. A
-// quotation mark is written as `, and much of a long name as ~.
+// quotation mark is written as `, and parts of long names as ~ and, with accents, ^.
 struct MessageRow {
   const char *mended, *found, *message, *hint;
 };
 
 constexpr MessageRow kMessages[] = {
-    {"<Value>600</Value>", "<Vaule/><Value>600</Value>",
-     "19:33: warning: nobody reads Vaule in ResolutionDef [element-unknown]",
-     "did you mean `Value`?"},
     {"<Ink ID=`1`", "<Media ID=`1`><PrintMode/></Media><Ink ID=`1`",
      "39:6: warning: nobody reads Media in Control_Definition, nor what is under it (1 element) "
      "[element-unknown]",
@@ -52,9 +49,6 @@ constexpr MessageRow kMessages[] = {
      "27:66: warning: `0x10` in Size isn't a plain number: Size is read as 595 and 16 "
      "[number-malformed]",
      "write 2 numbers with commas or blanks between them"},
-    {"<MediaSize ID=`1` MarginIDList=", "<MediaSize ID=`1` MarginID=",
-     "64:25: warning: nobody reads the attribute MarginID in MediaSize [attribute-unknown]",
-     "did you mean `MarginIDList`?"},
     {"Name=`Fine`", "Name=`fine`",
      "46:56: warning: `fine` and `Fine` on line 43 are two dithers, although they differ in case "
      "only [name-case]",
@@ -71,14 +65,19 @@ constexpr MessageRow kMessages[] = {
      "46:56: warning: the RIP resolution of `~...` is never found: the name is longer than 64 "
      "bytes [name-cut]",
      "use a shorter name"},
+    {"<InternalName>Black<", "<InternalName>a^^^^<",
+     "23:56: warning: InternalName is longer than 64 bytes and is cut: it ends in `^` [name-cut]",
+     "use a shorter name"},
 };
 
 std::string WithQuotes(const std::string& text) {
-  return Replaced(Replaced(text, "`", "\""), "~", std::string(60, 'x'));
+  const std::string accents = Replaced(std::string(9, '^'), "^", "\xC3\xA9");
+  return Replaced(Replaced(Replaced(text, "`", "\""), "~", std::string(60, 'x')), "^", accents);
 }
 
 std::string PageWith(const std::string& mended, const std::string& found) {
-  return FoundText(ReadCodeTables(), {"", "", "", {WithQuotes(found)}, {WithQuotes(mended)}});
+  return TextWith(ReadCodeTables(), {"", "", "", {WithQuotes(found)}, {WithQuotes(mended)}},
+                  Form::kFound);
 }
 
 TEST_F(CheckCommand, TellsWhereAndWhatInWords) {
@@ -90,27 +89,23 @@ TEST_F(CheckCommand, TellsWhereAndWhatInWords) {
   }
 }
 
-TEST_F(CheckCommand, CutsNamesBetweenCharacters) {
-  const auto accents = [](int count) {
-    std::string text;
-    while (count-- > 0) text += "\xC3\xA9";
-    return text;
-  };
-  folder_.Write("d.qdf", PageWith("<InternalName>Black<", "<InternalName>a" + accents(40) + "<"));
-  EXPECT_THAT(Run("check d.qdf").out,
-              testing::HasSubstr("it ends in \"" + accents(9) + "\" [name-cut]"));
-}
-
-TEST_F(CheckCommand, ShowsOnATerminalWhatThePageShows) {
+TEST_F(CheckCommand, TellsPeopleWhatThePageShowsAndProgramsTheSame) {
   folder_.Write("demo.qdf",
                 PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
-  std::istringstream lines(OnTerminal({"check", "demo.qdf"}, {folder_.Path()}));
-  std::string shown;
-  for (std::string line; std::getline(lines, line) && line.back() == '\r';) {
-    shown += "    " + line.substr(0, line.size() - 1) + '\n';
-  }
+  std::string shown =
+      Replaced(OnTerminal({"check", "demo.qdf"}, {folder_.Path()}), "\r\n", "\n    ");
+  shown.erase(shown.rfind("    code 0"));
   EXPECT_THAT(ReadFile(QDF_EXAMPLES "/../docs/checks.md"),
-              testing::HasSubstr("\n\n" + shown + '\n'));
+              testing::HasSubstr("\n\n    " + shown + '\n'));
+  const json report = Json("check demo.qdf");
+  EXPECT_EQ(report["documents"],
+            json::parse(R"([{"document": "demo.qdf", "errors": 0, "warnings": 3, "notes": 0}])"));
+  ASSERT_EQ(report["findings"].size(), 3U);
+  EXPECT_EQ(report["findings"][0], json::parse(R"({
+      "document": "demo.qdf", "code": "id-twice", "severity": "warning",
+      "line": 12, "column": 21, "length": 1, "path": "/QDF_Info/Definition/MediaList/MediaDef[2]/ID",
+      "message": "this medium is dropped: \"Plain\" on line 11 has the id 1 already",
+      "hint": "give it an ID of its own"})"));
 }
 
 TEST_F(CheckCommand, CutsLongLinesAndKeepsThePlace) {
@@ -125,24 +120,6 @@ TEST_F(CheckCommand, CutsLongLinesAndKeepsThePlace) {
                                         "...\r\n   | " + std::string(63, ' ') + "^~~~~\r\n"));
 }
 
-TEST_F(CheckCommand, RefusesWhatTheOtherCommandsRefuse) {
-  folder_.Write("bad.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
-  const std::string reason = "this end tag does not match its start tag";
-  EXPECT_EQ(Run("check bad.qdf none.qdf"),
-            (Outcome{1, "bad.qdf:2:15: error: " + reason +
-                            " [not-well-formed]\n"
-                            "  hint: correct the XML here; nothing else is examined until then\n"
-                            "bad.qdf: 1 error\n"
-                            "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
-                            "  hint: correct the path, or what it leads to\n"
-                            "OutputDrivers/none.qdf: 1 error\n"}));
-  folder_.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
-  EXPECT_EQ(Run("check wide.qdf").out,
-            "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
-            "  hint: save it as UTF-8\nwide.qdf: 1 error\n");
-  EXPECT_EQ(Run("show bad.qdf"), (Outcome{1, "", "qdf: bad.qdf:2:15: " + reason + "\n"}));
-}
-
 TEST_F(CheckCommand, AnswersWithExitCodes) {
   folder_.Write("OutputDrivers/good.qdf", ReadCodeTables().document);
   folder_.Write("OutputDrivers/Bad.QDF", "<QDF_Info/>");
@@ -150,84 +127,75 @@ TEST_F(CheckCommand, AnswersWithExitCodes) {
   folder_.Write("OutputDrivers/sub/other.qdf", "");
   folder_.Write("warns/d.qdf", PageWith("`1,2`", "`1,2` a=``"));
   folder_.Write("empty/readme", "");
+  folder_.Write("broken.qdf", "<QDF_Info>\n  <Definition></Wrong>\n");
+  folder_.Write("wide.qdf", std::string("\xFF\xFE<\0Q\0/\0>\0", 10));
   const std::string warning =
       "warns/d.qdf:52:29: warning: nobody reads the attribute a in PrintMode "
       "[attribute-unknown]\n  hint: take it out\nwarns/d.qdf: 1 warning\n";
   const std::string both =
       "OutputDrivers/Bad.QDF: no findings\nOutputDrivers/good.qdf: no findings\n";
-  const std::string nothing =
-      "empty: error: no *.qdf is in this folder [unreadable]\n"
-      "  hint: correct the path, or give the documents themselves\nempty: 1 error\n" +
-      both;
-  const struct {
-    const char* words;
-    int code;
-    const char *out, *err;
-  } rows[] = {
-      {"good.qdf", 0, "OutputDrivers/good.qdf: no findings\n", ""},
-      {"warns", 0, warning.c_str(), ""},
-      {"warns --werror", 1, warning.c_str(), ""},
-      {"warns/d.qdf --werror --ignore attribute-unknown", 0, "warns/d.qdf: no findings\n", ""},
-      {"--ignore definition-missing OutputDrivers", 0, both.c_str(), ""},
-      {"warns --ignore attribute-unkown", 2, "",
-       "qdf: there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
-       "element-unknown, id-unknown\n"},
-      {"warns --format xml", 2, "",
-       "qdf: there is no format \"xml\"; choose from text, json, sarif\n"},
-      {"warns --json --format sarif", 2, "", "qdf: --json contradicts --format sarif\n"},
-      {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers", 1,
-       nothing.c_str(), ""},
+  const std::pair<std::string, Outcome> rows[] = {
+      {"good.qdf", {0, "OutputDrivers/good.qdf: no findings\n"}},
+      {"warns", {0, warning}},
+      {"warns --werror", {1, warning}},
+      {"warns/d.qdf --werror --ignore attribute-unknown", {0, "warns/d.qdf: no findings\n"}},
+      {"--ignore definition-missing OutputDrivers", {0, both}},
+      {"warns --ignore attribute-unkown",
+       Refused("there is no code \"attribute-unkown\"; the nearest are attribute-unknown, "
+               "element-unknown, id-unknown",
+               2)},
+      {"warns --format xml",
+       Refused("there is no format \"xml\"; choose from text, json, sarif", 2)},
+      {"warns --json --format sarif", Refused("--json contradicts --format sarif", 2)},
+      {"empty OutputDrivers --ignore definition-missing good.qdf OutputDrivers/../OutputDrivers",
+       {1,
+        "empty: error: no *.qdf is in this folder [unreadable]\n"
+        "  hint: correct the path, or give the documents themselves\nempty: 1 error\n" +
+            both}},
+      {"broken.qdf none.qdf",
+       {1,
+        "broken.qdf:2:15: error: this end tag does not match its start tag [not-well-formed]\n"
+        "  hint: correct the XML here; nothing else is examined until then\n"
+        "broken.qdf: 1 error\n"
+        "OutputDrivers/none.qdf: error: no such file [unreadable]\n"
+        "  hint: correct the path, or what it leads to\n"
+        "OutputDrivers/none.qdf: 1 error\n"}},
+      {"wide.qdf",
+       {1,
+        "wide.qdf:1:1: error: the file is UTF-16 [not-well-formed]\n"
+        "  hint: save it as UTF-8\nwide.qdf: 1 error\n"}},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Run(std::string("check ") + row.words), (Outcome{row.code, row.out, row.err}))
-        << row.words;
-  }
-}
-
-TEST_F(CheckCommand, GivesAnObjectForEachFinding) {
-  folder_.Write("d.qdf", PageWith("<ID>2</ID><DisplayName>Matte", "<ID>1</ID><DisplayName>Matte"));
-  const json report = Json("check d.qdf");
-  EXPECT_EQ(report["documents"],
-            json::parse(R"([{"document": "d.qdf", "errors": 0, "warnings": 3, "notes": 0}])"));
-  ASSERT_EQ(report["findings"].size(), 3U);
-  EXPECT_EQ(report["findings"][0], json::parse(R"({
-      "document": "d.qdf", "code": "id-twice", "severity": "warning",
-      "line": 12, "column": 21, "length": 1, "path": "/QDF_Info/Definition/MediaList/MediaDef[2]/ID",
-      "message": "this medium is dropped: \"Plain\" on line 11 has the id 1 already",
-      "hint": "give it an ID of its own"})"));
+  for (const auto& [words, outcome] : rows) EXPECT_EQ(Run("check " + words), outcome) << words;
 }
 
 TEST_F(CheckCommand, WritesSarif) {
-  // A character of two bytes and one of four stand before the finding: one and two code units.
+  // A character of two bytes and one of four stand before the finding: one and two code units. In
+  // the other document a byte order mark does, which is no column.
   const std::string path = folder_.Write(
       "d \xC3\xA9.qdf", "<QDF_Info><!-- \xC3\xA9\xF0\x9F\x96\xA8 --><Definition/></QDF_Info>");
-  const Outcome outcome = RunTool({"check", "--format", "sarif", path, "none.qdf"});
-  const json log = json::parse(outcome.out, nullptr, false);
+  const std::string marked = folder_.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
+  const Outcome outcome = RunTool({"check", "--format", "sarif", path, marked, "none.qdf"});
   EXPECT_EQ(outcome.code, 1);
+  const json log = json::parse(outcome.out, nullptr, false);
   EXPECT_EQ(log["version"], "2.1.0");
   const json& run = log["runs"][0];
   EXPECT_EQ(run["columnKind"], "utf16CodeUnits");
   EXPECT_EQ(run["tool"]["driver"]["name"], "qdf");
-  const json& rules = run["tool"]["driver"]["rules"];
-  ASSERT_EQ(run["results"].size(), 6U);
+  ASSERT_EQ(run["results"].size(), 7U);
   for (const json& result : run["results"]) {
-    const json& rule = rules[result["ruleIndex"].get<std::size_t>()];
+    const json& rule = run["tool"]["driver"]["rules"][result["ruleIndex"].get<std::size_t>()];
     EXPECT_EQ(result["ruleId"], rule["id"]);
     EXPECT_EQ(result["level"], rule["defaultConfiguration"]["level"]);
   }
-  json place = run["results"][0]["locations"][0];
-  EXPECT_EQ(place["physicalLocation"]["artifactLocation"]["uri"],
-            "file://" + folder_.Path() + "/d%20%C3%A9.qdf");
-  EXPECT_EQ(place["physicalLocation"]["region"],
-            json::parse(R"({"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34})"));
-  EXPECT_EQ(place["logicalLocations"][0]["fullyQualifiedName"], "/QDF_Info/Definition");
-  // A byte order mark at the beginning is no column.
-  const std::string marked = folder_.Write("m.qdf", "\xEF\xBB\xBF<QDF_Info/>");
-  const json alone = json::parse(RunTool({"check", "--format", "sarif", marked}).out);
-  EXPECT_EQ(alone["runs"][0]["results"][0]["locations"][0]["physicalLocation"]["region"],
+  const auto place = [&](std::size_t at) { return run["results"][at]["locations"][0]; };
+  EXPECT_EQ(place(0), json::parse(Replaced(R"({"physicalLocation": {
+      "artifactLocation": {"uri": "file://FOLDER/d%20%C3%A9.qdf"},
+      "region": {"startLine": 1, "startColumn": 24, "endLine": 1, "endColumn": 34}},
+      "logicalLocations": [{"fullyQualifiedName": "/QDF_Info/Definition", "kind": "element"}]})",
+                                           "FOLDER", folder_.Path())));
+  EXPECT_EQ(place(5)["physicalLocation"]["region"],
             json::parse(R"({"startLine": 1, "startColumn": 2, "endLine": 1, "endColumn": 10})"));
-  place = run["results"][5]["locations"][0];
-  EXPECT_FALSE(place["physicalLocation"].contains("region"));
+  EXPECT_FALSE(place(6)["physicalLocation"].contains("region"));
 }
 
 }  // namespace

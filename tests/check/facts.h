@@ -1,20 +1,9 @@
 #pragma once
 
-// A document as a heap of short texts, of which one may be missing in another heap.
+// Whether a document holds all that stands in its file.
 
 #include <string>
-#include <vector>
 
-#include "qdf/core/apmqdf.h"
-
-using Facts = std::vector<std::string>;
-
-// Both are sorted. What stands in a well-formed file, told by the depth and the names of its
-// elements: what nobody reads gives a fact as well.
-Facts FactsOfFile(const std::string& path);
-
-// All that the object holds, in the same words.
-Facts FactsOf(APMQDF& document);
-
-// A text of nothing but numbers in one form, however they are spelled; any other as it is.
-std::string Shown(const std::string& text);
+// Something that stands in the file and isn't among what the tool shows of the document; empty when
+// there is nothing. What nobody reads counts as well.
+std::string LostOf(const std::string& path);

@@ -23,58 +23,37 @@ const auto kMarks = Split(
     "<|>|\"|&amp;|&|-|(|)|,|/>|\n| |x|<!--|-->|]]>|<![CDATA[|ALL|nan|inf|1e9|<?p ?>|<!DOCTYPE a>|"
     "\xEF\xBB\xBF");
 
-std::size_t Below(Random& random, std::size_t end) { return random() % end; }
-
 const char* Choose(Random& random, const std::vector<std::string>& words) {
-  return words[Below(random, words.size())].c_str();
+  return words[random() % words.size()].c_str();
 }
 
-std::vector<pugi::xml_node> ElementsUnder(const pugi::xml_node& root) {
-  std::vector<pugi::xml_node> elements{root};
-  for (std::size_t i = 0; i < elements.size(); ++i) {
-    const pugi::xml_node element = elements[i];
-    for (const pugi::xml_node child : element.children()) {
-      if (child.type() == pugi::node_element) elements.push_back(child);
-    }
-  }
-  return elements;
+// One of those that are there, which may be none.
+pugi::xpath_node Choose(Random& random, const pugi::xml_document& document, const char* path) {
+  const pugi::xpath_node_set found = document.select_nodes(path);
+  return found.empty() ? pugi::xpath_node() : found[random() % found.size()];
 }
 
-void MutateAttribute(pugi::xml_node element, Random& random) {
-  std::vector<pugi::xml_attribute> attributes;
-  for (const pugi::xml_attribute each : element.attributes()) attributes.push_back(each);
-  const char* name = Choose(random, kAttributes);
-  const char* value = Choose(random, kValues);
-  const std::size_t kind = attributes.empty() ? 0 : Below(random, 6);
-  pugi::xml_attribute attribute =
-      attributes.empty() ? pugi::xml_attribute() : attributes[Below(random, attributes.size())];
-  if (kind == 0 && !element.attribute(name)) element.append_attribute(name) = value;
-  if (kind == 1) element.remove_attribute(attribute);
-  if (kind == 2 && !element.attribute(name)) attribute.set_name(name);
-  if (kind > 2) attribute.set_value(value);
-}
-
-void MutateText(pugi::xml_node element, Random& random) {
-  pugi::xml_node text = element.first_child();
-  if (text.type() != pugi::node_pcdata) text = element.prepend_child(pugi::node_pcdata);
-  const std::string longer = text.value() + std::string(300, 'n');
-  text.set_value(Below(random, 4) == 0 ? longer.c_str() : Choose(random, kValues));
-}
-
-void Mutate(const pugi::xml_node& root, Random& random) {
-  const std::vector<pugi::xml_node> elements = ElementsUnder(root);
-  pugi::xml_node element = elements[Below(random, elements.size())];
-  const pugi::xml_node other = elements[Below(random, elements.size())];
+// An attribute stands once.
+void Mutate(const pugi::xml_document& document, Random& random) {
+  const char* const name = Choose(random, kAttributes);
+  const char* const value = Choose(random, kValues);
+  pugi::xml_node element = Choose(random, document, "/*//*").node();
   pugi::xml_node parent = element.parent();
-  const bool isLeaf = !element.first_child().first_child();
-  const std::size_t kind = Below(random, 10);
-  if (kind == 0 && element != root) parent.remove_child(element);
-  if (kind == 1 && element != root) parent.insert_copy_after(element, element);
-  if (kind == 2 && element != root) parent.prepend_copy(other);
-  if (kind == 3) element.set_name(Choose(random, kNames));
+  pugi::xml_text text = Choose(random, document, "//*[not(*)]").node().text();
+  const pugi::xpath_node found = Choose(random, document, "//@*");
+  pugi::xml_attribute attribute = found.attribute();
+  const std::size_t kind = random() % 13;
+  if (kind == 0) parent.remove_child(element);
+  if (kind == 1) parent.insert_copy_after(element, element);
+  if (kind == 2) parent.prepend_copy(Choose(random, document, "//*").node());
+  if (kind == 3) Choose(random, document, "//*").node().set_name(Choose(random, kNames));
   if (kind == 4) element.prepend_child(pugi::node_pi).set_name(Choose(random, kNames));
-  if (kind > 4 && kind < 7 && isLeaf) MutateText(element, random);
-  if (kind > 6) MutateAttribute(element, random);
+  if (kind == 5) text.set((text.get() + std::string(300, 'n')).c_str());
+  if (kind == 6 || kind == 7) text.set(value);
+  if (kind == 8 && !element.attribute(name)) element.append_attribute(name) = value;
+  if (kind == 9) found.parent().remove_attribute(attribute);
+  if (kind == 10 && !found.parent().attribute(name)) attribute.set_name(name);
+  if (kind > 10) attribute.set_value(value);
 }
 
 }  // namespace
@@ -82,8 +61,7 @@ void Mutate(const pugi::xml_node& root, Random& random) {
 std::string Mutated(const std::string& document, Random& random) {
   pugi::xml_document tree;
   tree.load_string(document.c_str());
-  const std::size_t count = 1 + Below(random, 3);
-  for (std::size_t i = 0; i < count; ++i) Mutate(tree.document_element(), random);
+  for (std::size_t left = 1 + random() % 3; left > 0; --left) Mutate(tree, random);
   std::ostringstream text;
   tree.save(text, "", pugi::format_raw);
   return text.str();
@@ -91,11 +69,11 @@ std::string Mutated(const std::string& document, Random& random) {
 
 std::string Garbled(const std::string& document, Random& random) {
   std::string text = document;
-  for (std::size_t left = 1 + Below(random, 3); left > 0; --left) {
-    const std::size_t at = Below(random, text.size());
-    const std::size_t kind = Below(random, 3);
+  for (std::size_t left = 1 + random() % 3; left > 0; --left) {
+    const std::size_t at = random() % text.size();
+    const std::size_t kind = random() % 3;
     if (kind == 0) text.insert(at, Choose(random, kMarks));
-    if (kind == 1) text.erase(at, Below(random, 20));
+    if (kind == 1) text.erase(at, random() % 20);
     if (kind == 2) text[at] = static_cast<char>(random());
   }
   return text;

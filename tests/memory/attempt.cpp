@@ -65,28 +65,36 @@ void operator delete[](void* block, std::size_t) noexcept { Release(block); }
 void operator delete(void* block, std::align_val_t) noexcept { Release(block); }
 void operator delete(void* block, std::size_t, std::align_val_t) noexcept { Release(block); }
 
-void Attempt::Begin() {
-  memory.allowed = allowed_;
-  memory.once = once_;
+void Attempt::Try(const std::function<void()>& work) {
+  memory.allowed = allowed;
+  memory.once = once;
   memory.refused = false;
+  try {
+    work();
+  } catch (...) {
+    thrown = true;
+  }
+  memory.allowed = kUnlimited;
+  refused = memory.refused;
 }
 
-void Attempt::End() {
-  memory.allowed = kUnlimited;
-  refused_ = memory.refused;
+void Attempt::Expect(const std::function<int()>& work) {
+  int result = 0;
+  Try([&] { result = work(); });
+  EXPECT_EQ(result == 0, refused);
 }
 
 void WithEveryAllocation(const char* what, const std::function<void(Attempt&)>& attempt) {
   for (const bool once : {false, true}) {
     bool enough = false;
     for (long allowed = 0; !enough; ++allowed) {
-      Attempt one(allowed, once);
+      Attempt one{allowed, once};
       const long live = memory.live;
       attempt(one);
       ASSERT_FALSE(testing::Test::HasFailure()) << what << ", allocation " << allowed;
-      ASSERT_FALSE(one.Thrown()) << what << " throws at allocation " << allowed;
+      ASSERT_FALSE(one.thrown) << what << " throws at allocation " << allowed;
       ASSERT_EQ(memory.live, live) << what << " leaks at allocation " << allowed;
-      enough = !one.Refused();
+      enough = !one.refused;
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <typeinfo>
 
 #include "qdf/core/documentmembers.h"
@@ -25,53 +26,47 @@ namespace {
 class NoMemory : public testing::Test {
  protected:
   NoMemory() {
-    for (const char* name : {"dyesub6.qdf", "dyesub6.txt", "plot36.qdf"}) {
-      folder_.Write(std::string("OutputDrivers/") + name,
-                    ReadFile(QDF_EXAMPLES "/OutputDrivers/" + std::string(name)));
+    for (const std::string name : {"dyesub6.qdf", "dyesub6.txt", "plot36.qdf"}) {
+      folder_.Write("OutputDrivers/" + name, ReadFile(QDF_EXAMPLES "/OutputDrivers/" + name));
     }
     Example();  // what is allocated once, at the first use, is there
   }
 
-  const TempFolder& Folder() const { return folder_; }
-  std::string Path(const std::string& name) const { return folder_.Path("OutputDrivers/" + name); }
-  std::unique_ptr<APMQDF> Example() const { return LoadFile(Path("dyesub6.qdf")); }
+  static std::unique_ptr<APMQDF> Example() { return LoadFile("OutputDrivers/dyesub6.qdf"); }
 
- private:
   TempFolder folder_;
   WorkingFolder in_{folder_.Path()};
 };
 
 TEST_F(NoMemory, LoadsGiveNothing) {
-  AFilePath path(Path("dyesub6.qdf").c_str());
   WithEveryAllocation("load by name", [&](Attempt& attempt) {
     APMQDF* document = nullptr;
     attempt.Try([&] { PMGetQDFInterfaceFromName("plot36.qdf", &document); });
-    EXPECT_EQ(document == nullptr, attempt.Refused());
+    EXPECT_EQ(document == nullptr, attempt.refused);
     delete document;
   });
-  WithEveryAllocation("load into an object", [&](Attempt& attempt) {
-    APMQDF document;
-    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return document.LoadQDFFile(path); }));
-  });
-  std::vector<std::string> ids;
-  for (int id = 1; id <= 100; ++id) ids.push_back(std::to_string(id));
-  const DocumentText manyMedia{.MediaList = Entries(Join(ids, ";")),
-                               .Control = Control("[1[" + Join(ids, "[1[1[1]]];") + "[1[1[1]]]]]")};
-  AFilePath manyPath(Folder().Write("many.qdf", manyMedia.Text()).c_str());
+  std::string media = "1";
+  std::string nodes = "1[1[1[1]]]";
+  for (int id = 2; id <= 100; ++id) {
+    media += ';' + std::to_string(id);
+    nodes += ';' + std::to_string(id) + "[1[1[1]]]";
+  }
+  const DocumentText many{.MediaList = Entries(media), .Control = Control("[1[" + nodes + "]]")};
+  AFilePath path(folder_.Write("many.qdf", many.Text()).c_str());
   WithEveryAllocation("load of a node with an index", [&](Attempt& attempt) {
     APMQDF document;
-    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return document.LoadQDFFile(manyPath); }));
+    attempt.Expect([&] { return document.LoadQDFFile(path); });
     std::vector<PrintModeInfo> modes;
     int at = 0;
     const int found = document.GetPrintModeList(1, 99, modes, at);
-    EXPECT_TRUE(attempt.Refused() || found == 1);
+    EXPECT_TRUE(attempt.refused || found == 1);
   });
   WithEveryAllocation("load of a tree", [&](Attempt& attempt) {
     AXMLTree tree("RootElement");
-    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return tree.loadFromFile(path, 1); }));
+    attempt.Expect([&] { return tree.loadFromFile(path, 1); });
     AXMLTreeNode root;
-    EXPECT_EQ(tree.getRootNode(root) == 0, attempt.Refused());
-    EXPECT_EQ(tree.loadFault().Reason, attempt.Refused() ? "out of memory" : "");
+    EXPECT_EQ(tree.getRootNode(root) == 0, attempt.refused);
+    EXPECT_EQ(tree.loadFault().Reason, attempt.refused ? "out of memory" : "");
   });
 }
 
@@ -84,10 +79,9 @@ void CheckQuestion(APMQDF& document, Ask ask, Default former, ID... ids) {
   WithEveryAllocation(typeid(Record).name(), [&](Attempt& attempt) {
     std::vector<Record> records(1);
     preselected = former;
-    const int result = attempt.Try([&] { return (document.*ask)(ids..., records, preselected); });
-    EXPECT_EQ(result == 0, attempt.Refused());
-    EXPECT_TRUE(!attempt.Refused() || preselected == Default());
-    EXPECT_EQ(records.size(), attempt.Refused() ? 1 : 1 + all.size());
+    attempt.Expect([&] { return (document.*ask)(ids..., records, preselected); });
+    EXPECT_TRUE(!attempt.refused || preselected == Default());
+    EXPECT_EQ(records.size(), attempt.refused ? 1 : 1 + all.size());
   });
 }
 
@@ -115,7 +109,7 @@ TEST_F(NoMemory, FirstQuestionsLeaveLaterOnesRight) {
     std::vector<AString> dithers;
     AString preselected;
     const auto ask = [&] { return document->GetDitherList(1, 1, 1, 1, 1, dithers, preselected); };
-    EXPECT_TRUE(attempt.FailsWhenRefused(ask));
+    attempt.Expect(ask);
     dithers.clear();
     EXPECT_EQ(ask(), 1);
     EXPECT_EQ(Dump(dithers), "Adaptive");
@@ -126,34 +120,32 @@ TEST_F(NoMemory, FirstQuestionsLeaveLaterOnesRight) {
 TEST_F(NoMemory, TextsStayEmptyAndTreesWhole) {
   const std::string longText(100, 'x');
   const auto document =
-      Load({.MediaSourceList = Entries("1;2"),
-            .MediaSizeList = Entries("1"),
-            .Definition = "<ProductType>" + longText + "</ProductType>",
-            .Control = Control("[1[1[1[1[1]]]]]",
-                               "<PrinterSpecificSetting>" + longText + "</PrinterSpecificSetting>"),
-            .SourceControl = SourceControl(">1[1,2[1];2[1]]")});
-  AString oemInfo;
-  document->GetOEMInfo(1, 1, 1, 1, 1, oemInfo);  // the first question has the dithers read
-  WithEveryAllocation("product type", [&](Attempt& attempt) {
-    AString text;
-    attempt.Try([&] { text = document->GetProdcutType(); });
-    EXPECT_EQ(text.GetLength() == 0, attempt.Refused());
-  });
-  WithEveryAllocation("printer specific text", [&](Attempt& attempt) {
-    AString text;
-    EXPECT_TRUE(
-        attempt.FailsWhenRefused([&] { return document->GetOEMInfo(1, 1, 1, 1, 1, text); }));
-    EXPECT_EQ(text.GetLength() == 0, attempt.Refused());
-  });
+      Load({.Definition = "<ProductType>" + longText + "</ProductType>",
+            .Control = Control("[1[1[1[1[1]]]]]", "<PrinterSpecificSetting>" + longText +
+                                                      "</PrinterSpecificSetting>")});
+  const auto askOEMInfo = [&](AString& text) { return document->GetOEMInfo(1, 1, 1, 1, 1, text); };
+  AString unused;
+  askOEMInfo(unused);  // the first question has the dithers read
+  const std::pair<const char*, std::function<int(AString&)>> rows[] = {
+      {"product type",
+       [&](AString& text) { return (text = document->GetProdcutType()).GetLength(); }},
+      {"printer specific text", askOEMInfo}};
+  for (const auto& row : rows) {
+    WithEveryAllocation(row.first, [&](Attempt& attempt) {
+      AString text;
+      attempt.Expect([&] { return row.second(text); });
+      EXPECT_EQ(text.GetLength() == 0, attempt.refused);
+    });
+  }
+  const auto example = Example();
+  CQDFNode* source = ChildAt(*example->GetMediaSourceTreeRoot(), 0);
   WithEveryAllocation("copy of a tree", [&](Attempt& attempt) {
     CQDFNode target;
     for (const unsigned int id : {7U, 8U, 9U, 10U}) target.IDs.Add(id);
     for (int i = 0; i < 3; ++i) AddChildNode(target);
     const std::string former = Dump(target);
-    CQDFNode* source = ChildAt(*document->GetMediaSourceTreeRoot(), 0);
-    const auto copy = [&] { return document->PMCopyMediaSourceTreeRoot(source, &target); };
-    EXPECT_TRUE(attempt.FailsWhenRefused([&] { return copy() ? 1 : 0; }));
-    EXPECT_EQ(Dump(target) == former, attempt.Refused());
+    attempt.Expect([&] { return document->PMCopyMediaSourceTreeRoot(source, &target) ? 1 : 0; });
+    EXPECT_EQ(Dump(target) == former, attempt.refused);
   });
 }
 
@@ -163,21 +155,21 @@ TEST_F(NoMemory, WritesGiveTheFormerFileOrTheNewOne) {
       .Control = Control("[1[1[1[1[1]]]]]", "<ICCProfile>" + std::string(50'000, 'x') +
                                                 "</ICCProfile><DitherList><Dither Name='d' "
                                                 "RipResolution='1'/></DitherList>")};
-  AFilePath path(Path("written.qdf").c_str());
+  AFilePath path("written.qdf");
   Load(text)->PMWriteQDF(path);
-  const std::string whole = ReadFile(Path("written.qdf"));
+  const std::string whole = ReadFile("written.qdf");
   WithEveryAllocation("write", [&](Attempt& attempt) {
     const auto document = Load(text);
-    WriteFile(Path("written.qdf"), "former");
+    WriteFile("written.qdf", "former");
     attempt.Try([&] { document->PMWriteQDF(path); });
-    EXPECT_EQ(ReadFile(Path("written.qdf")), attempt.Refused() ? "former" : whole);
+    EXPECT_EQ(ReadFile("written.qdf"), attempt.refused ? "former" : whole);
   });
 }
 
 // A table loses no more than the line for which there is no memory.
 TEST_F(NoMemory, LocalisesLineByLine) {
   const std::string translation(100, 't');
-  Folder().Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
+  folder_.Write("OutputDrivers/t", "One=" + translation + "\nTwo=" + translation);
   const DocumentText text{.InkList = Entries("1=One;2=Two"),
                           .Definition = "<TranslationTable>t</TranslationTable>"};
   bool met[2][2] = {};
@@ -189,7 +181,7 @@ TEST_F(NoMemory, LocalisesLineByLine) {
     const bool second = Str(inks[1].DisplayName) == translation;
     EXPECT_TRUE(first || Str(inks[0].DisplayName) == "One");
     EXPECT_TRUE(second || Str(inks[1].DisplayName) == "Two");
-    EXPECT_EQ(first && second, !attempt.Refused());
+    EXPECT_EQ(first && second, !attempt.refused);
     met[first][second] = true;
   });
   EXPECT_TRUE(met[false][false] && met[true][false] && met[false][true]);
@@ -205,10 +197,7 @@ TEST_F(NoMemory, CustomMediaKeepTheirFile) {
       "key_Iccprofile_ForMedia=a medium with a long name/the profile of the medium\n";
   const AString medium("a medium with a long name");
   const AString text("a text that needs memory of its own");
-  const struct {
-    const char* what;
-    std::function<int(Media&)> work;
-  } rows[] = {
+  const std::pair<std::string, std::function<int(Media&)>> rows[] = {
       {"load again", [](Media& media) { return media.LoadCustomMediaFile(); }},
       {"save", [](Media& media) { return media.SaveCustomMediaFile(); }},
       {"add a profile", [&](Media& media) { return media.AddIccprofile(text); }},
@@ -217,62 +206,57 @@ TEST_F(NoMemory, CustomMediaKeepTheirFile) {
       {"get a name",
        [&](Media& media) {
          AString name;
-         const int result = media.GetDisplayNameForMedia(medium, name);
-         return name.GetLength() > 0 ? result : 0;
+         return media.GetDisplayNameForMedia(medium, name) != 0 ? name.GetLength() : 0;
        }},
       {"get the profiles",
        [&](Media& media) {
          AStringArray profiles;
-         const int result = media.GetIccprofileList(profiles);
-         return profiles.GetSize() > 0 ? result : 0;
+         return media.GetIccprofileList(profiles) != 0 ? profiles.GetSize() : 0;
        }},
   };
-  AFilePath path(Path("media.txt").c_str());
+  AFilePath path("media.txt");
   for (const auto& row : rows) {
-    WithEveryAllocation(row.what, [&](Attempt& attempt) {
-      WriteFile(Path("media.txt"), lines);
-      {
-        Media media(path);
-        media.LoadCustomMediaFile();
-        EXPECT_TRUE(attempt.FailsWhenRefused([&] { return row.work(media); }));
-      }
+    WithEveryAllocation(row.first.c_str(), [&](Attempt& attempt) {
+      WriteFile("media.txt", lines);
+      std::optional<Media> media(path);
+      media->LoadCustomMediaFile();
+      attempt.Expect([&] { return row.second(*media); });
+      media.reset();
       // What a set that failed removes is told to be gone.
-      const bool mayLack = !attempt.Refused() || std::string(row.what).find("set") == 0;
-      EXPECT_TRUE(mayLack || ReadFile(Path("media.txt")) == lines);
+      const bool mayLack = !attempt.refused || row.first.starts_with("set");
+      EXPECT_TRUE(mayLack || ReadFile("media.txt") == lines);
     });
   }
 }
 
 TEST_F(NoMemory, ArchivesTellThatTheyLackSomething) {
-  AFilePath path(Path("archive").c_str());
+  AFilePath path("archive");
   ANewColorOpt option;
   SetField(option.Shape, "a shape with a name that is long");
   WithEveryAllocation("write to an archive", [&](Attempt& attempt) {
-    WriteFile(Path("archive"), "former");
-    const int saved = attempt.Try([&] {
+    WriteFile("archive", "former");
+    attempt.Expect([&] {
       AArchive archive(path, AArchive::Direction::Writing);
       archive << option;
       return archive.Close();
     });
-    EXPECT_EQ(saved == 0, attempt.Refused());
-    EXPECT_EQ(ReadFile(Path("archive")) == "former", attempt.Refused());
+    EXPECT_EQ(ReadFile("archive") == "former", attempt.refused);
   });
   WithEveryAllocation("read from an archive", [&](Attempt& attempt) {
     ANewColorOpt read;
-    const int whole = attempt.Try([&] {
+    attempt.Expect([&] {
       AArchive archive(path, AArchive::Direction::Reading);
       archive >> read;
       return archive.Close();
     });
-    EXPECT_EQ(whole == 0, attempt.Refused());
-    EXPECT_TRUE(attempt.Refused() || read == option);
+    EXPECT_TRUE(attempt.refused || read == option);
   });
 }
 
 TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
-  WriteResource(Folder(), "tree", {});
+  WriteResource(folder_, "tree", {});
   const AFilePath path("dyesub6.qdf");
-  const AFilePath tree("tree");
+  AFilePath tree("tree");
   PMUpdateQDF(path, tree);
   const std::string whole = ReadFile("dyesub6.qdf");
   EXPECT_NE(LoadFile("dyesub6.qdf"), nullptr);
@@ -281,24 +265,22 @@ TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
     attempt.Try([&] { PMUpdateQDF(path, tree); });
     // A sort does without the memory that it asks for.
     const std::string bytes = ReadFile("dyesub6.qdf");
-    EXPECT_TRUE(bytes == whole || (attempt.Refused() && bytes == "former")) << bytes.size();
+    EXPECT_TRUE(bytes == whole || (attempt.refused && bytes == "former")) << bytes.size();
   });
-  AFilePath resources("tree");
   WithEveryAllocation("sweep", [&](Attempt& attempt) {
-    Folder().Write("tree/Empty/file", "");
-    attempt.Try([&] { PMCheckHPXMLVersion(resources); });
+    folder_.Write("tree/Empty/file", "");
+    attempt.Try([&] { PMCheckHPXMLVersion(tree); });
     EXPECT_NE(AFilePath("tree/Glossy/best/Glossy_best.xml").exists(), 0);
-    EXPECT_TRUE(attempt.Refused() || AFilePath("tree/Empty").exists() == 0);
+    EXPECT_TRUE(attempt.refused || AFilePath("tree/Empty").exists() == 0);
   });
 }
 
 TEST_F(NoMemory, TextFilesDoNotOpen) {
-  AFilePath path(Path("dyesub6.txt").c_str());
+  AFilePath path("OutputDrivers/dyesub6.txt");
   for (const unsigned int mode : {AFile::kRead, AFile::kCreate}) {
     WithEveryAllocation("open", [&](Attempt& attempt) {
       AStdioFile file;
-      EXPECT_TRUE(attempt.FailsWhenRefused(
-          [&] { return file.Open(path, mode, nullptr, AFile::kAnyFile); }));
+      attempt.Expect([&] { return file.Open(path, mode, nullptr, AFile::kAnyFile); });
     });
   }
 }

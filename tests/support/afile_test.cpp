@@ -1,9 +1,12 @@
+// Text files: lines in pieces, what doesn't open, what is written.
+
 #include "qdf/support/afile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <tuple>
 #include <vector>
 
 #include "tests/files.h"
@@ -12,18 +15,19 @@ namespace {
 
 using std::string_literals::operator""s;
 
-int Open(AStdioFile& file, const std::string& path, unsigned int mode) {
+// Empty when it opens, else why not.
+std::string Opened(AStdioFile& file, const std::string& path, unsigned int mode) {
   AFilePath filePath(path.c_str());
   AFileException exception;
   const int result = file.Open(filePath, mode, &exception, AFile::kAnyFile);
   EXPECT_EQ(result != 0, exception.Reason == nullptr);
-  return result;
+  return result != 0 ? "" : exception.Reason;
 }
 
 // "1:ab\n|2:c": each piece behind the number of its line.
 std::string Pieces(const std::string& path, unsigned int capacity) {
   AStdioFile file;
-  EXPECT_EQ(Open(file, path, AFile::kRead), 1);
+  EXPECT_EQ(Opened(file, path, AFile::kRead), "");
   std::vector<char> buffer(capacity);  // of this size exactly: a sanitizer sees one byte too many
   std::string pieces;
   while (file.ReadString(buffer.data(), capacity) != nullptr) {
@@ -35,11 +39,7 @@ std::string Pieces(const std::string& path, unsigned int capacity) {
 
 TEST(StdioFile, ReadsLinesInPiecesThatFitTheBuffer) {
   const TempFolder folder;
-  const struct {
-    std::string bytes;
-    unsigned int capacity;
-    std::string pieces;
-  } rows[] = {
+  const std::tuple<std::string, unsigned int, std::string> rows[] = {
       {"", 9, ""},
       {"a\n\nb", 9, "1:a\n|2:\n|3:b"},
       {"abc", 1, ""},
@@ -49,36 +49,33 @@ TEST(StdioFile, ReadsLinesInPiecesThatFitTheBuffer) {
       {"a\r\n", 9, "1:a\r\n"},
       {"ab\0cd\ne"s, 9, "1:ab|2:e"},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Pieces(folder.Write("file", row.bytes), row.capacity), row.pieces) << row.bytes;
-  }
-}
-
-TEST(StdioFile, RefusesWhatIsNoRegularFile) {
-  const TempFolder folder;
-  const std::string pipe = folder.Path("pipe");
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& path : {folder.Path(), pipe, folder.Path("missing/file")}) {
-    for (const unsigned int mode : {1U, 0x102U, 0U}) {
-      AStdioFile file;
-      EXPECT_EQ(Open(file, path, mode), 0) << path << mode;
-      char buffer[8];
-      EXPECT_EQ(file.ReadString(buffer, sizeof buffer), nullptr);
-      file.Write("lost", 4);
-    }
+  for (const auto& [bytes, capacity, pieces] : rows) {
+    EXPECT_EQ(Pieces(folder.Write("file", bytes), capacity), pieces) << bytes;
   }
 }
 
 // A hole takes no room on the disk, but it would take it in memory.
-TEST(StdioFile, RefusesATooLargeFileUnread) {
+TEST(StdioFile, RefusesWhatIsNoRegularFileOrTooLarge) {
   const TempFolder folder;
-  const std::string path = folder.Write("hole", "");
-  ASSERT_EQ(truncate(path.c_str(), off_t{1} << 31), 0);
-  AFilePath filePath(path.c_str());
-  AFileException exception;
-  AStdioFile file;
-  EXPECT_EQ(file.Open(filePath, AFile::kRead, &exception, AFile::kAnyFile), 0);
-  EXPECT_STREQ(exception.Reason, "it is too large");
+  const std::string hole = folder.Write("hole", "");
+  ASSERT_EQ(truncate(hole.c_str(), off_t{1} << 31), 0);
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(mknod(folder.Path("socket").c_str(), S_IFSOCK | 0600, 0), 0);
+  const std::pair<const char*, const char*> rows[] = {{"", "it is a folder"},
+                                                      {"pipe", "it is no regular file"},
+                                                      {"socket", "it can't be read"},
+                                                      {"missing/file", "no such file"},
+                                                      {"hole", "it is too large"}};
+  for (const auto& [name, reason] : rows) {
+    const std::string path = folder.Path(name);
+    AStdioFile file;
+    EXPECT_EQ(Opened(file, path, 1), reason);
+    EXPECT_EQ(Opened(file, path, 0), "there is no such way to open it");
+    EXPECT_EQ(Opened(file, path, 0x102), path == hole ? "" : "it can't be written") << path;
+    char buffer[8];
+    EXPECT_EQ(file.ReadString(buffer, sizeof buffer), nullptr);
+    file.Write("lost", 4);
+  }
 }
 
 TEST(StdioFile, EmptiesAFileWhenItIsOpenedForWriting) {
@@ -86,7 +83,7 @@ TEST(StdioFile, EmptiesAFileWhenItIsOpenedForWriting) {
   const std::string path = folder.Write("file", "former");
   {
     AStdioFile file;
-    ASSERT_EQ(Open(file, path, 0x102), 1);
+    ASSERT_EQ(Opened(file, path, 0x102), "");
     EXPECT_EQ(ReadFile(path), "");
     file.Write("a\nb", 3);
     file.Write("\0c", 2);
