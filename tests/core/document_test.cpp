@@ -1,4 +1,4 @@
-// The nodes of option trees, and a document that is filled by more than one road.
+// The nodes of option trees, and what a document answers that is filled by no or by several roads.
 
 #include <gtest/gtest.h>
 
@@ -55,6 +55,20 @@ TEST(OptionTree, IsCopiedOntoWhatIsThere) {
   EXPECT_TRUE(document.PMCopyMediaSourceTreeRoot(&source, &target));
   other.reset();
   EXPECT_EQ(Dump(target), "9,9,9,9>2[1,2>3[1>4[1>5[1]];1];1,2>3[1>4[1>5[1]];1]]");
+}
+
+TEST(Document, IsNoneWhenNothingCanBeLoaded) {
+  const TempFolder folder;
+  folder.Write("OutputDrivers/text.qdf", "no XML");
+  folder.Write("OutputDrivers/folder.qdf/file", "");
+  const WorkingFolder in(folder.Path());
+  for (const char* name : {static_cast<const char*>(nullptr), "", "missing.qdf", "text.qdf",
+                           "folder.qdf", "text.qdf/x"}) {
+    APMQDF other;
+    APMQDF* document = &other;
+    PMGetQDFInterfaceFromName(name, &document);
+    EXPECT_EQ(document, nullptr) << (name == nullptr ? "null" : name);
+  }
 }
 
 TEST(Document, KeepsItsRecordsWhenItIsLoadedAgain) {
