@@ -9,8 +9,9 @@
 #include "qdf/support/text.h"
 
 // Two records, Cyan and Gold, after `change` has had each with its number.
-inline void WriteColours(const std::string& path,
-                         const std::function<void(int number, ANewColorOpt& option)>& change) {
+inline void WriteColours(
+    const std::string& path, const std::function<void(int number, ANewColorOpt& option)>& change =
+                                 [](int, ANewColorOpt&) {}) {
   AArchive archive(AFilePath(path.c_str()), AArchive::Direction::Writing);
   const char* const names[] = {"Cyan", "Gold"};
   for (int i = 0; i < 2; ++i) {
@@ -22,8 +23,4 @@ inline void WriteColours(const std::string& path,
     archive << option;
   }
   archive.Close();
-}
-
-inline void WriteColours(const std::string& path) {
-  WriteColours(path, [](int, ANewColorOpt&) {});
 }

@@ -5,30 +5,32 @@
 #include <string>
 #include <vector>
 
+#include "tests/documents.h"
 #include "tests/tool/run.h"
 
+// The lines behind the mark that begin so, without their beginning.
+inline Words LinesBehind(const std::string& mark, const std::string& beginning,
+                         const std::string& text) {
+  std::istringstream lines(text.substr(std::min(text.find(mark), text.size())));
+  Words found;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(beginning)) found.push_back(line.substr(beginning.size()));
+  }
+  return found;
+}
+
 struct CommandUsage {
-  std::string name;
+  std::string name, help;
   Words arguments;  // "DOC" and the like, those that may be left out in brackets
 };
 
-inline CommandUsage UsageOf(const std::string& name) {
-  const std::string help = RunTool({name, "--help"}).out;
-  const std::string start = "\nUsage: qdf " + name + " [OPTIONS] ";
-  const std::size_t at = help.find(start);
-  if (at == std::string::npos) return {name, {}};
-  const std::size_t begin = at + start.size();
-  return {name, SplitWords(help.substr(begin, help.find('\n', begin) - begin))};
-}
-
 inline std::vector<CommandUsage> Commands() {
-  const std::string help = RunTool({"--help"}).out;
-  const std::string title = "\nCommands:\n";
-  const std::size_t at = help.find(title);
   std::vector<CommandUsage> commands;
-  std::istringstream lines(at == std::string::npos ? "" : help.substr(at + title.size()));
-  for (std::string line; std::getline(lines, line) && line.starts_with("  ");) {
-    commands.push_back(UsageOf(SplitWords(line).front()));
+  for (const std::string& line : LinesBehind("\nCommands:\n", "  ", RunTool({"--help"}).out)) {
+    const std::string name = SplitWords(line).front();
+    const std::string help = RunTool({name, "--help"}).out;
+    const Words usage = LinesBehind("", "Usage: qdf " + name + " [OPTIONS] ", help);
+    commands.push_back({name, help, SplitWords(Join(usage, " "))});
   }
   return commands;
 }

@@ -49,7 +49,7 @@ constexpr const char* kSmallDocument = R"(<QDF_Info><Definition>
   <G><ID>71</ID><DisplayName>wide</DisplayName></G>
 </MarginInfoList>
 <MinAndMaxMediaSize>10,20,30,40</MinAndMaxMediaSize><MinMarginSize>5,6,7,8</MinMarginSize>
-</Definition>
+<CustomMediaFile>small_custom.txt</CustomMediaFile></Definition>
 <Control_Definition DefaultInk="1">
   <Ink ID="1" DefaultMedia="11"><Media ID="10,11,12" DefaultPrintMode="21">
     <PrintMode ID="20,21" DefaultResolution="30"><Resolution ID="30,31" DefaultColorMode="99">

@@ -10,45 +10,31 @@ namespace {
 
 using Load = QdfTest;
 
-constexpr const char* kColorMode = "<C><ColorantList><X/></ColorantList></C>";
-
-std::string Definition(const std::string& media, const std::string& colorModes) {
-  return "<Q><Definition><InkList><I/></InkList>" + media +
-         "<PrintModeList><P/></PrintModeList><ResolutionList><R/></ResolutionList>"
-         "<ColorModeList>" +
-         colorModes + "</ColorModeList></Definition></Q>";
-}
-
 TEST_F(Load, SaysWhatADocumentLacks) {
-  const std::string media = "<MediaList><M/></MediaList>";
-  const std::pair<std::string, const char*> refusals[] = {
+  const Refusals refusals = {
       {"", ":1:1: there is no root element"},
       {"<Q>\n  <a>\n</Q>", ":3:1: this end tag does not match its start tag"},
-      {"<Q a='1' a='2'/>", ":1:10: this attribute stands twice"},
-      {"<Q/>", ": the root element has no Definition"},
       {"<Q><X><Definition/></X></Q>", ": the root element has no Definition"},
       {"<Q><Definition/></Q>",
        ": Definition has no InkList; Definition has no MediaList; Definition has no PrintModeList; "
        "Definition has no ResolutionList; Definition has no ColorModeList"},
-      {Definition("", kColorMode), ": Definition has no MediaList"},
-      {Definition("<MediaList> - </MediaList>", kColorMode), ": MediaList is empty"},
-      {Definition(media, ""), ": ColorModeList is empty"},
-      {Definition(media, "<C/><C><ColorantList/></C>"),
+      {DocumentText{.MediaList = " - "}.Text(), ": MediaList is empty"},
+      {DocumentText{.InkList = "", .ColorModeList = ""}.Text(),
+       ": InkList is empty; ColorModeList is empty"},
+      {DocumentText{.ColorModeList = "<C/><C><ColorantList/></C>"}.Text(),
        ": no colour mode of ColorModeList has a colorant"},
   };
   for (const auto& [text, reason] : refusals) {
     folder_.Write("OutputDrivers/d.qdf", text);
-    EXPECT_EQ(Run("show d.qdf"), Refused(std::string("OutputDrivers/d.qdf") + reason));
+    EXPECT_EQ(Run("show d.qdf"), Refused("OutputDrivers/d.qdf" + reason));
   }
-  folder_.Write("OutputDrivers/d.qdf", Definition(media, kColorMode));
-  EXPECT_EQ(Run("show d.qdf").code, 0);
 }
 
 TEST_F(Load, SaysWhyAFileCannotBeRead) {
   ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
   ASSERT_EQ(symlink("loop", folder_.Path("loop").c_str()), 0);
   ASSERT_EQ(chmod(folder_.Write("secret", "<Q/>").c_str(), 0), 0);
-  const std::pair<const char*, const char*> refusals[] = {
+  const Refusals refusals = {
       {"nothing.qdf", "OutputDrivers/nothing.qdf: no such file"},
       {"./nothing.qdf", "./nothing.qdf: no such file"},
       {"secret/file", "secret/file: no such file"},

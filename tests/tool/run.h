@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/children.h"
 #include "tests/files.h"
 
 using Words = std::vector<std::string>;
@@ -38,9 +39,10 @@ inline std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
 struct Setting {
   std::string folder = QDF_EXAMPLES;
   Words environment{"NO_COLOR=", "TERM=xterm"};
-  int in = -1;            // is read instead of nothing
-  int out = -1;           // takes standard output instead of the outcome
-  bool asNobody = false;  // without root's rights to read everything
+  int in = -1;                  // is read instead of nothing
+  int out = -1;                 // takes standard output instead of the outcome
+  bool asNobody = false;        // without root's rights to read everything
+  unsigned long mostBytes = 0;  // of a file that it writes, unless 0
 };
 
 inline std::string ReadBack(int file) {
@@ -63,6 +65,7 @@ inline std::string ReadBack(int file) {
   const bool ready = chdir(setting.folder.c_str()) == 0 && dup2(in, STDIN_FILENO) >= 0 &&
                      dup2(out, STDOUT_FILENO) >= 0 && dup2(err, STDERR_FILENO) >= 0 &&
                      (!setting.asNobody || geteuid() != 0 || setuid(kNobody) == 0);
+  if (setting.mostBytes != 0) LimitFileSizes(setting.mostBytes);
   if (ready) fexecve(program, arguments.data(), environ);
   _exit(127);
 }
@@ -108,25 +111,14 @@ inline Words SplitWords(const std::string& line) {
   return {std::istream_iterator<std::string>(stream), {}};
 }
 
-// What the tool says with --json; null, which equals nothing that is looked for, unless it answered
-// with exit code 0 and well-formed JSON.
-inline nlohmann::json RunJson(Words words, const Setting& setting = {}) {
-  words.emplace_back("--json");
-  const Outcome outcome = RunTool(words, setting);
-  if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
-  return nlohmann::json::parse(outcome.out, nullptr, false);
-}
-
 // What a refusal says, and nothing else.
 inline Outcome Refused(const std::string& line, int code = 1) {
   return {code, "", "qdf: " + line + '\n'};
 }
 
-// What it prints from the mark on, up to the other one.
-inline std::string From(const std::string& mark, const Outcome& outcome,
-                        const std::string& end = "no such text") {
-  const std::string text = outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
-  return text.substr(0, text.find(end));
+// What it prints from the mark on.
+inline std::string From(const std::string& mark, const Outcome& outcome) {
+  return outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
 }
 
 using Refusals = std::vector<std::pair<std::string, std::string>>;
@@ -141,8 +133,12 @@ class QdfTest : public testing::Test {
   Outcome Run(const std::string& line, const Setting& setting = {}) const {
     return RunWords(SplitWords(line), setting);
   }
+  // What the tool says with --json; null, which equals nothing that is looked for, unless it
+  // answered with exit code 0 and well-formed JSON.
   nlohmann::json Json(const std::string& line) const {
-    return RunJson(SplitWords(line), {folder_.Path()});
+    const Outcome outcome = Run(line + " --json");
+    if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
+    return nlohmann::json::parse(outcome.out, nullptr, false);
   }
   // The command with the words of each row says what stands beside them, and nothing else.
   void ExpectRefusals(const std::string& command, const Refusals& rows, int code = 1) const {

@@ -1,7 +1,9 @@
+// qdf write tells what a document loses, and no command leaves a file half-written.
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "tests/children.h"
+#include "tests/hpimport/resources.h"
 #include "tests/tool/document.h"
 
 namespace {
@@ -27,9 +29,6 @@ No longer held (10)
 )"}));
   EXPECT_EQ(Run("write ./new.qdf again.qdf").out,
             "Document:  ./new.qdf\nWritten:   again.qdf\n\nNo longer held: none\n");
-}
-
-TEST_F(QdfWrite, TellsProgramsWholeLists) {
   EXPECT_EQ(Json("write small.qdf new.qdf")["losses"][2], nlohmann::json::parse(R"({
       "what": "Dithers", "count": 24, "unit": "combinations", "first": "all of them",
       "before": ["Fine", "Coarse"], "after": ["FINE", "COARSE"]})"));
@@ -47,38 +46,42 @@ TEST_F(QdfWrite, MayReplaceTheDocumentItself) {
 TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
   ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
   ASSERT_EQ(symlink("nowhere", folder_.Path("link").c_str()), 0);
-  const std::pair<const char*, const char*> refusals[] = {
-      {"no/new.qdf", "its folder isn't there"},    {"./", "it is a folder"},
-      {"pipe", "it is no regular file"},           {"link", "the link leads nowhere"},
-      {"small.qdf/new", "its folder isn't there"}, {"/dev/null", "it is no regular file"},
-  };
-  for (const auto& [out, reason] : refusals) {
-    EXPECT_EQ(Run(std::string("write small.qdf ") + out),
-              Refused(out + std::string(": it can't be saved: ") + reason));
-  }
+  const std::string why = ": it can't be saved: ";
+  ExpectRefusals("write small.qdf",
+                 {{"no/new.qdf", "no/new.qdf" + why + "its folder isn't there"},
+                  {"./", "./" + why + "it is a folder"},
+                  {"pipe", "pipe" + why + "it is no regular file"},
+                  {"link", "link" + why + "the link leads nowhere"},
+                  {"small.qdf/new", "small.qdf/new" + why + "its folder isn't there"},
+                  {"/dev/null", "/dev/null" + why + "it is no regular file"}});
   EXPECT_FALSE(Has("nowhere"));
 }
 
-TEST_F(QdfWrite, TakesAnEmptyNameForWrongUsage) {
-  EXPECT_EQ(RunWords({"write", "small.qdf", ""}),
-            Refused("the name of the file to write is empty", 2));
-  for (const char* command : {"resources", "sweep"}) {
-    EXPECT_EQ(RunWords({command, ""}), Refused("the name of the folder is empty", 2));
-  }
-}
-
 TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
-  folder_.Write("old.qdf", "former content");
-  EXPECT_EQ(InChild([&] {
-              LimitFileSizes(1024);
-              const Outcome full = Refused("old.qdf: it can't be saved: there is no room for it");
-              return Run("write small.qdf old.qdf") == full ? 0 : 1;
-            }),
-            0);
+  const std::string entries = "key_DisplayName_ForMedia=pl/Everyday\n";
+  const std::pair<const char*, std::string> files[] = {
+      {"old.qdf", "former content"},
+      {"OutputDrivers/small.qdf", kSmallDocument},
+      {"OutputDrivers/small.qdf.bak", "older"},
+      {"OutputDrivers/small.txt", "Glossy=Brillant\n"},
+      {"OutputDrivers/small_custom.txt",
+       entries + "key_Iccprofile=" + std::string(900, 'p') + '\n' + entries},
+  };
+  for (const auto& [name, content] : files) folder_.Write(name, content);
+  WriteResource(folder_, "res", {});
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0755), 0);
-  EXPECT_EQ(Run("write small.qdf old.qdf", {.asNobody = true}),
-            Refused("old.qdf: it can't be saved: no permission to write it"));
-  EXPECT_EQ(File("old.qdf"), "former content");
+  // Nothing but the backup of an update may be written, and is then taken back.
+  ASSERT_EQ(chmod(folder_.Path(files[2].first).c_str(), 0666), 0);
+  for (const auto& [command, file] :
+       {std::pair("write small.qdf old.qdf", files[0].first),
+        std::pair("localise small.qdf -o old.qdf", files[0].first),
+        std::pair("update small.qdf res", files[1].first),
+        std::pair("media small.qdf --set-name gl=x", files[4].first)}) {
+    const std::string line = file + std::string(": it can't be saved: ");
+    EXPECT_EQ(Run(command, {.mostBytes = 900}), Refused(line + "there is no room for it"));
+    EXPECT_EQ(Run(command, {.asNobody = true}), Refused(line + "no permission to write it"));
+  }
+  for (const auto& [name, content] : files) EXPECT_EQ(File(name), content) << name;
 }
 
 }  // namespace
