@@ -1,6 +1,8 @@
-// What the program makes of its words, whatever the command.
+// What the program makes of its words and of the documents that they name, whatever the command.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "tests/tool/commands.h"
 #include "tests/tool/run.h"
@@ -11,11 +13,10 @@ namespace fs = std::filesystem;
 
 using CommandLine = QdfTest;
 
-TEST_F(CommandLine, RefusesWrongUsageInOneLine) {
+TEST_F(CommandLine, RefusesWrongUsageInOneLineWithTheNearestFirst) {
   const Refusals refusals = {
       {"", "a command is missing; try 'qdf --help'"},
       {"--json", "there is no option \"--json\"; choose from --help, --version, -C"},
-      {"-C", "-C: 1 required DIR missing; try 'qdf --help'"},
       {"-C nowhere show x", "can't work in \"nowhere\": No such file or directory"},
       {"show", "DOC is required; try 'qdf show --help'"},
       {"show d.qdf more", "nothing is known to do with \"more\"; try 'qdf show --help'"},
@@ -43,17 +44,9 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLine) {
   };
   fs::copy(QDF_EXAMPLES "/OutputDrivers/plot36.qdf", folder_.Path("d.qdf"));
   for (const auto& [words, line] : empty) EXPECT_EQ(RunWords(words), Refused(line, 2));
-}
-
-TEST_F(CommandLine, SuggestsCommandsTheNearestFirst) {
-  const Outcome outcome = RunWords({"sow\x1b[1m\n", "plot36.qdf"});
-  EXPECT_EQ(outcome.code, 2);
-  EXPECT_TRUE(
-      outcome.err.starts_with("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "))
-      << outcome;
-  for (const CommandUsage& command : Commands()) {
-    EXPECT_NE(outcome.err.find(' ' + command.name), std::string::npos) << command.name;
-  }
+  EXPECT_THAT(
+      RunWords({"sow\x1b[1m\n", "d.qdf"}).err,
+      testing::StartsWith("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "));
 }
 
 TEST_F(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
@@ -96,6 +89,54 @@ TEST_F(CommandLine, FindsDocumentsByPathAndByName) {
     EXPECT_TRUE(outcome.out.starts_with("Document:           " + path + '\n')) << outcome;
   }
   EXPECT_EQ(Run("show ./both.qdf").code, 1);
+}
+
+using Load = QdfTest;
+
+TEST_F(Load, SaysWhatADocumentLacks) {
+  const Refusals refusals = {
+      {"", ":1:1: there is no root element"},
+      {"<Q>\n  <a>\n</Q>", ":3:1: this end tag does not match its start tag"},
+      {"<Q><X><Definition/></X></Q>", ": the root element has no Definition"},
+      {"<Q><Definition/></Q>",
+       ": Definition has no InkList; Definition has no MediaList; Definition has no PrintModeList; "
+       "Definition has no ResolutionList; Definition has no ColorModeList"},
+      {DocumentText{.MediaList = " - "}.Text(), ": MediaList is empty"},
+      {DocumentText{.InkList = "", .ColorModeList = ""}.Text(),
+       ": InkList is empty; ColorModeList is empty"},
+      {DocumentText{.ColorModeList = "<C/><C><ColorantList/></C>"}.Text(),
+       ": no colour mode of ColorModeList has a colorant"},
+  };
+  for (const auto& [text, reason] : refusals) {
+    folder_.Write("OutputDrivers/d.qdf", text);
+    EXPECT_EQ(Run("show d.qdf"), Refused("OutputDrivers/d.qdf" + reason));
+  }
+}
+
+TEST_F(Load, SaysWhyAFileCannotBeRead) {
+  ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(symlink("loop", folder_.Path("loop").c_str()), 0);
+  ASSERT_EQ(chmod(folder_.Write("secret", "<Q/>").c_str(), 0), 0);
+  const Refusals refusals = {
+      {"nothing.qdf", "OutputDrivers/nothing.qdf: no such file"},
+      {"./nothing.qdf", "./nothing.qdf: no such file"},
+      {"secret/file", "secret/file: no such file"},
+      {"./", "./: it is a folder"},
+      {"pipe", "pipe: it is no regular file"},
+      {"./loop", "./loop: the links lead nowhere"},
+  };
+  // The same for every command, since all load in one way.
+  for (const CommandUsage& command : Commands()) {
+    // An update writes DOC, and loads another document.
+    if (command.arguments.front() != "DOC" || command.name == "update") continue;
+    for (const auto& [name, line] : refusals) {
+      Words words = {command.name, name};
+      words.insert(words.end(), command.arguments.begin() + 1, command.arguments.end());
+      EXPECT_EQ(RunWords(words), Refused(line)) << command.name;
+    }
+  }
+  EXPECT_EQ(Run("show ./secret", {.asNobody = true}),
+            Refused("./secret: no permission to read it"));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ class QdfMedia : public QdfTest {
   }
 };
 
-TEST_F(QdfMedia, ShowsTheFileAndLeavesItAlone) {
+TEST_F(QdfMedia, ShowsTheFileAndChangesIt) {
   EXPECT_EQ(From("Media (2)", Run("media small.qdf")), R"(Media (2)
   Medium  Display name  Profile  IDs in the document
   pl      Everyday      pl.icc   10
@@ -45,9 +45,6 @@ Lines that don't count (2)
      6  it has no "/"  key_DisplayName_ForMedia=lonely
 )");
   EXPECT_EQ(File(kPath), kFile);
-}
-
-TEST_F(QdfMedia, ChangesTheFile) {
   const Outcome changed =
       Run("media small.qdf --set-name own= --set-profile Glossy=g.icc --set-name Glossy=Silk "
           "--add-profile b.icc --add-profile FIRST.ICC --remove pl");
@@ -62,25 +59,21 @@ TEST_F(QdfMedia, ChangesTheFile) {
             "key_Iccprofile_ForMedia=Glossy/g.icc\n");
 }
 
-TEST_F(QdfMedia, MakesTheFileWhenThereIsNone) {
+TEST_F(QdfMedia, MakesTheFileAndNeverHidesThatTheLastEntryStays) {
   ASSERT_EQ(unlink(folder_.Path(kPath).c_str()), 0);
   EXPECT_EQ(Json("media small.qdf")["state"], "no such file");
   EXPECT_FALSE(Has(kPath));
   EXPECT_EQ(Json("media small.qdf --set-name gl=Silk")["media"].dump(),
             R"([{"displayName":"Silk","ids":[11],"media":"gl","profile":null}])");
-  EXPECT_EQ(File(kPath), "key_DisplayName_ForMedia=gl/Silk\n");
-}
-
-TEST_F(QdfMedia, NeverHidesThatTheLastEntryStays) {
-  const std::string last = "key_DisplayName_ForMedia=pl/Everyday\n";
-  folder_.Write(kPath, last);
+  const std::string last = "key_DisplayName_ForMedia=gl/Silk\n";
+  EXPECT_EQ(File(kPath), last);
   const std::string line =
       "OutputDrivers/small_custom.txt: that would remove the last entry, but the library never "
       "writes a file without entries, so the old lines would stay; delete the file";
-  ExpectRefusals("media small.qdf", {{"--remove pl", line}, {"--set-name pl=", line}});
+  ExpectRefusals("media small.qdf", {{"--remove gl", line}, {"--set-name gl=", line}});
   EXPECT_EQ(File(kPath), last);
-  EXPECT_EQ(Run("media small.qdf --remove pl --set-name gl=Silk").code, 0);
-  EXPECT_EQ(File(kPath), "key_DisplayName_ForMedia=gl/Silk\n");
+  EXPECT_EQ(Run("media small.qdf --remove gl --set-name pl=Silk").code, 0);
+  EXPECT_EQ(File(kPath), "key_DisplayName_ForMedia=pl/Silk\n");
 }
 
 TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {

@@ -1,11 +1,32 @@
+// qdf options shows and compares archives of colour options.
+
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 
-#include "tests/tool/colours.h"
+#include "qdf/definition/colorarchive.h"
+#include "qdf/support/text.h"
 #include "tests/tool/run.h"
 
 namespace {
+
+// Two records, Cyan and Gold, after `change` has had each with its number.
+void WriteColours(
+    const std::string& path, const std::function<void(int number, ANewColorOpt& option)>& change =
+                                 [](int, ANewColorOpt&) {}) {
+  AArchive archive(AFilePath(path.c_str()), AArchive::Direction::Writing);
+  const char* const names[] = {"Cyan", "Gold"};
+  for (int i = 0; i < 2; ++i) {
+    ANewColorOpt option;
+    SetField(option.Colorant.DisplayName, names[i]);
+    SetField(option.Colorant.InternalName, std::string(names[i]).substr(0, 1));
+    option.Colorant.IsSpotColor = i;
+    change(i + 1, option);
+    archive << option;
+  }
+  archive.Close();
+}
 
 class QdfOptions : public QdfTest {
  protected:

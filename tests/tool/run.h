@@ -46,10 +46,8 @@ struct Setting {
 };
 
 inline std::string ReadBack(int file) {
-  std::string bytes(static_cast<std::size_t>(lseek(file, 0, SEEK_END)), '\0');
-  const ssize_t got = pread(file, bytes.data(), bytes.size(), 0);
+  std::string bytes = ReadFile("/proc/self/fd/" + std::to_string(file));
   close(file);
-  bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
   return bytes;
 }
 

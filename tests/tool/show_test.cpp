@@ -89,13 +89,6 @@ TEST_F(Tree, ShowsNodesWithNamesDownToTheDithers) {
             Profiles: none
             Dithers: none
             RIP resolutions of other dithers: Any 72x73
-
-Media source tree (default media source: 51 Tray)
-  Media source: 50 Roll (default media size: 61 A3)
-    Media size: 60 A4, 61 A3
-      Margins: 70 narrow, 71 wide (default margins: 71 wide)
-  Media source: 51 Tray
-    Media size: 60 A4
 )"));
 }
 
