@@ -5,7 +5,6 @@
 
 #include <cstdio>
 
-#include "tests/files.h"
 #include "tests/tool/commands.h"
 
 namespace {
@@ -20,21 +19,6 @@ Words LongOptions(const CommandUsage& command) {
     options.push_back(SplitWords(option.substr(option.find("--"))).front());
   }
   return options;
-}
-
-TEST(Manual, TellsOfEachCommandAndOption) {
-  const std::string page = ReadFile(std::string(kSources) + "/docs/qdf.1");
-  const std::string start = "\n.It Nm Cm ";
-  const std::size_t general = page.find(start);
-  for (const CommandUsage& command : Commands()) {
-    const std::size_t begin = page.find(start + command.name + ' ');
-    ASSERT_NE(begin, std::string::npos) << command.name;
-    const std::string text =
-        page.substr(0, general) + page.substr(begin, page.find(start, begin + 1) - begin);
-    for (const std::string& option : LongOptions(command)) {
-      EXPECT_THAT(text, testing::HasSubstr(' ' + option.substr(1))) << command.name;
-    }
-  }
 }
 
 // What bash offers for the last of the words.
@@ -54,12 +38,21 @@ Words Complete(const std::string& folder, const std::string& words) {
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
-TEST(Completion, KnowsEachCommandAndOption) {
+TEST(Manual, TellsOfEachCommandAndOptionAsTheCompletionDoes) {
+  const std::string page = ReadFile(std::string(kSources) + "/docs/qdf.1");
+  const std::string start = "\n.It Nm Cm ";
   Words names;
   for (const CommandUsage& command : Commands()) {
     names.push_back(command.name);
-    EXPECT_THAT(Complete("/", "qdf " + command.name + " --"),
-                UnorderedElementsAreArray(LongOptions(command)));
+    const Words options = LongOptions(command);
+    EXPECT_THAT(Complete("/", "qdf " + command.name + " --"), UnorderedElementsAreArray(options));
+    const std::size_t begin = page.find(start + command.name + ' ');
+    ASSERT_NE(begin, std::string::npos) << command.name;
+    const std::string text =
+        page.substr(0, page.find(start)) + page.substr(begin, page.find(start, begin + 1) - begin);
+    for (const std::string& option : options) {
+      EXPECT_THAT(text, testing::HasSubstr(' ' + option.substr(1))) << command.name;
+    }
   }
   EXPECT_THAT(Complete("/", "qdf ''"), UnorderedElementsAreArray(names));
   for (const std::string& list : Complete("/", "qdf show --list = ''")) {

@@ -15,13 +15,10 @@ using QdfResources = QdfTest;
 TEST_F(QdfResources, ListsEachFileWithEachField) {
   WriteResource(folder_, "tree/sub",
                 {.media = "Matte",
-                 .quality = "draft",
                  .displayNames = {"Matt", "Mat"},
-                 .customizable = 1,
-                 .x = 300,
+                 .customizable = 4,
                  .y = 600.5,
-                 .black = 3,
-                 .algorithm = 2});
+                 .black = 3});
   WriteResource(folder_, "tree", {});
   folder_.Write("tree/Glossy/best/other.xml", "<r/>");
   folder_.Write("tree/Bad/best/Bad_best.xml", "<r>");
@@ -29,10 +26,10 @@ TEST_F(QdfResources, ListsEachFileWithEachField) {
   EXPECT_EQ(report["withoutEffect"][0]["place"], "tree/Bad/best/Bad_best.xml:1:1");
   EXPECT_EQ(report["resources"].size(), 2U);
   EXPECT_EQ(report["resources"][1], nlohmann::json::parse(R"({
-      "media": "Matte", "displayNames": ["Matt", "Mat"], "isCustomizableMedia": 1,
-      "quality": "draft", "printQuality": "Best", "displayResolution": "600", "inputHRes": 300,
-      "inputVRes": 600.5, "inputFormat": "KCMY", "blackDepth": 3, "colorDepth": 2, "algorithm": 2,
-      "profile": "p.icc", "file": "Matte_draft.xml"})"));
+      "media": "Matte", "displayNames": ["Matt", "Mat"], "isCustomizableMedia": 4,
+      "quality": "best", "printQuality": "Best", "displayResolution": "600", "inputHRes": 600,
+      "inputVRes": 600.5, "inputFormat": "KCMY", "blackDepth": 3, "colorDepth": 2, "algorithm": 1,
+      "profile": "p.icc", "file": "Matte_best.xml"})"));
   for (const char* command : {"resources", "sweep"}) {
     ExpectRefusals(command,
                    {{"none", "none: no such folder"},
