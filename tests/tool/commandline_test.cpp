@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "tests/tool/commands.h"
 #include "tests/tool/run.h"
 
 namespace {

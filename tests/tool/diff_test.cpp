@@ -104,8 +104,8 @@ TEST_F(Diff, TellsChangesByNameAndTheWeightiestFirst) {
   const Outcome told = With(Edited({
       {"<ProductType>small", "<ProductType>large"},
       {"<DisplayName>Draft<", "<DisplayName>Fast<"},
-      {"<ID>21</ID><InternalName>be</InternalName><DisplayName>Best",
-       "<ID>22</ID><InternalName>su</InternalName><DisplayName>Super"},
+      {"<ID>21</ID><DisplayName>Best</DisplayName><InternalName>be",
+       "<ID>22</ID><DisplayName>Super</DisplayName><InternalName>su"},
       {"ID=\"20,21\"", "ID=\"20,22\""},
       {"<Value>600x1200", "<Value>600"},
   }));

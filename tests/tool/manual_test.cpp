@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-#include "tests/tool/commands.h"
+#include "tests/tool/run.h"
 
 namespace {
 

@@ -107,20 +107,20 @@ TEST_F(Narrow, SaysWhy) {
        R"(Ink 1 "Photo Black" or 2 "Matte Black" instead of 3 would give an answer.)"},
       {"--ink 2",
        R"(Media 10 "Plain" may follow ink 2 "Matte Black". 2 nodes stand for that choice, Ink[2] )"
-       R"((line 55, column 4) and Ink[3] (line 56, column 4); the first one decides what is )"
+       R"((line 42, column 4) and Ink[3] (line 43, column 4); the first one decides what is )"
        R"(listed. Later nodes also hold media 13 "Glossy", which is never listed.)"},
       {"--ink 2 --media 11",
        R"( It holds only media 10 "Plain". No other holds media 11 "Glossy".)"},
       {"--ink 2 --media 13 --print-mode 20 --resolution 31 --color-mode 41",
        R"( It holds only media 10 "Plain". Media 13 "Glossy" stands in Ink[3], which comes too )"
        R"(late. A host that gives all ids at once still gets the profiles and dithers of )"
-       R"(Ink[3]/Media/PrintMode/Resolution/ColorMode (line 56, column 70). No change of one )"
+       R"(Ink[3]/Media/PrintMode/Resolution/ColorMode (line 43, column 70). No change of one )"
        R"(choice alone gives an answer.)"},
       {"--ink 1 --defaults", R"(The combination gives an answer. It is found in )"
-                             R"(Ink[1]/Media/PrintMode/Resolution/ColorMode (line 49, column 8).)"},
+                             R"(Ink[1]/Media/PrintMode/Resolution/ColorMode (line 36, column 8).)"},
       {"--source 51 --size 60",
        R"(No margins are listed for media source 51 "Tray", media size 60 "A4". One node stands )"
-       R"(for these choices, MediaSource[2]/MediaSize (line 63, column 25). It has nothing below )"
+       R"(for these choices, MediaSource[2]/MediaSize (line 50, column 25). It has nothing below )"
        R"(it. Media source 50 "Roll" instead of 51 would give an answer.)"},
       {"", R"(Inks 1 "Photo Black", 2 "Matte Black" and 3 "Unused" may be chosen.)"},
   };
@@ -131,13 +131,13 @@ TEST_F(Narrow, SaysWhy) {
   why.erase("text");
   EXPECT_EQ(why, nlohmann::json::parse(R"({"answers": false, "level": "media",
     "nodes": [
-      {"path": "/QDF_Info/Control_Definition/Ink[2]", "line": 55, "column": 4,
+      {"path": "/QDF_Info/Control_Definition/Ink[2]", "line": 42, "column": 4,
        "options": [{"id": 10, "displayName": "Plain", "internalName": "pl"}]},
-      {"path": "/QDF_Info/Control_Definition/Ink[3]", "line": 56, "column": 4,
+      {"path": "/QDF_Info/Control_Definition/Ink[3]", "line": 43, "column": 4,
        "options": [{"id": 13, "displayName": "Glossy", "internalName": "gl2"}]}],
     "hidden": [{"id": 13, "displayName": "Glossy", "internalName": "gl2",
-                "path": "/QDF_Info/Control_Definition/Ink[3]", "line": 56, "column": 4}],
-    "found": {"path": "/QDF_Info/Control_Definition/Ink[3]/Media", "line": 56, "column": 16},
+                "path": "/QDF_Info/Control_Definition/Ink[3]", "line": 43, "column": 4}],
+    "found": {"path": "/QDF_Info/Control_Definition/Ink[3]/Media", "line": 43, "column": 16},
     "lacks": [], "changes": []})"));
 }
 
@@ -154,12 +154,12 @@ TEST_F(Narrow, SaysWhatTheFoundNodeLacks) {
   const nlohmann::json why = Json("--ink 1 --defaults --why --color-mode 40")["job"];
   const std::string later = "Ink[1]/Media/PrintMode/Resolution/ColorMode[3]";
   EXPECT_THAT(std::string(why["text"]),
-              EndsWith("/ColorMode[1] (line 49, column 8); " + later +
-                       " (line 55, column 2), which would fit too, is never asked. The first one "
+              EndsWith("/ColorMode[1] (line 36, column 8); " + later +
+                       " (line 42, column 2), which would fit too, is never asked. The first one "
                        "lacks profile \"late.icc\" and dither \"Late\" of " +
                        later + '.'));
   EXPECT_EQ(why["lacks"][1],
-            nlohmann::json::parse(R"({"what": "dither", "name": "Late", "line": 55, "column": 2,
+            nlohmann::json::parse(R"({"what": "dither", "name": "Late", "line": 42, "column": 2,
     "path": "/QDF_Info/Control_Definition/Ink[1]/Media/PrintMode/Resolution/ColorMode[3]"})"));
   EXPECT_EQ(Json("--source 51 --size 60 --why")["mediaSource"]["nodes"][0]["path"],
             "/QDF_Info/MediaSource_Control/MediaSource[3]/MediaSize");
@@ -175,21 +175,16 @@ TEST_F(Narrow, KnowsTheChangesThatGiveAnAnswer) {
                                                 "2[1[2[1[1]]];2[1,3[1]]];2[3[3[1[1]]]]]")}
                     .Text());
   const Refusals rows = {
-      {"1 1 3", "printMode 1;"},
-      {"2 3 3", "media 2;"},
-      {"2 1 1", "ink 1;media 2;printMode 2;"},
-      {"1 3 3", "printMode 2;"},
+      {"--ink 1 --media 1 --print-mode 3", "Print mode 1 instead of 3"},
+      {"--ink 2 --media 3 --print-mode 3", "Media 2 instead of 3"},
+      {"--ink 2 --media 1 --print-mode 1",
+       "Ink 1 instead of 2, or media 2 instead of 1, or print mode 2 instead of 1"},
+      {"--ink 1 --media 3 --print-mode 3", "Print mode 2 instead of 3"},
   };
-  for (const auto& [choice, changes] : rows) {
-    const std::string choices =
-        "--ink " + choice.substr(0, 1) + " --media " + choice[2] + " --print-mode " + choice[4];
-    const nlohmann::json why = Json(choices + " --why")["job"];
-    EXPECT_EQ(why["answers"], false);
-    std::string told;
-    for (const auto& change : why["changes"]) {
-      told += change["level"].get<std::string>() + ' ' + change["id"].dump() + ';';
-    }
-    EXPECT_EQ(told, changes) << choice;
+  for (const auto& [choices, changes] : rows) {
+    const nlohmann::json job = Json(choices + " --why")["job"];
+    EXPECT_THAT(std::string(job["text"]), HasSubstr(". " + changes + " would give an answer."));
+    EXPECT_EQ(job["answers"], false);
   }
 }
 

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "tests/children.h"
+#include "tests/documents.h"
 #include "tests/files.h"
 
 using Words = std::vector<std::string>;
@@ -117,6 +118,34 @@ inline Outcome Refused(const std::string& line, int code = 1) {
 // What it prints from the mark on.
 inline std::string From(const std::string& mark, const Outcome& outcome) {
   return outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
+}
+
+// The lines behind the mark that begin so, without their beginning.
+inline Words LinesBehind(const std::string& mark, const std::string& beginning,
+                         const std::string& text) {
+  std::istringstream lines(text.substr(std::min(text.find(mark), text.size())));
+  Words found;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(beginning)) found.push_back(line.substr(beginning.size()));
+  }
+  return found;
+}
+
+struct CommandUsage {
+  std::string name, help;
+  Words arguments;  // "DOC" and the like, those that may be left out in brackets
+};
+
+// The commands, as the program's own help tells them.
+inline std::vector<CommandUsage> Commands() {
+  std::vector<CommandUsage> commands;
+  for (const std::string& line : LinesBehind("\nCommands:\n", "  ", RunTool({"--help"}).out)) {
+    const std::string name = SplitWords(line).front();
+    const std::string help = RunTool({name, "--help"}).out;
+    const Words usage = LinesBehind("", "Usage: qdf " + name + " [OPTIONS] ", help);
+    commands.push_back({name, help, SplitWords(Join(usage, " "))});
+  }
+  return commands;
 }
 
 using Refusals = std::vector<std::pair<std::string, std::string>>;
