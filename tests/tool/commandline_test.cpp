@@ -9,6 +9,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using testing::StartsWith;
 
 using CommandLine = QdfTest;
 
@@ -33,19 +34,15 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineWithTheNearestFirst) {
       {"narrow d.qdf --size A4", "--size needs --source as well, or --defaults"},
       {"localise d.qdf -o x --untranslated", "--output and --untranslated don't go together"},
       {"sweep . --yes --dry-run", "--yes and --dry-run don't go together"},
-  };
-  ExpectRefusals("", refusals, 2);
-  const std::pair<Words, const char*> empty[] = {
-      {{"show", ""}, "the name of the document is empty"},
-      {{"write", "d.qdf", ""}, "the name of the file to write is empty"},
-      {{"resources", ""}, "the name of the folder is empty"},
-      {{"sweep", ""}, "the name of the folder is empty"},
+      {"show ''", "the name of the document is empty"},
+      {"write d.qdf ''", "the name of the file to write is empty"},
+      {"resources ''", "the name of the folder is empty"},
+      {"sweep ''", "the name of the folder is empty"},
   };
   fs::copy(QDF_EXAMPLES "/OutputDrivers/plot36.qdf", folder_.Path("d.qdf"));
-  for (const auto& [words, line] : empty) EXPECT_EQ(RunWords(words), Refused(line, 2));
-  EXPECT_THAT(
-      RunWords({"sow\x1b[1m\n", "d.qdf"}).err,
-      testing::StartsWith("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "));
+  ExpectRefusals("", refusals, 2);
+  EXPECT_THAT(RunWords({"sow\x1b[1m\n", "d.qdf"}).err,
+              StartsWith("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "));
 }
 
 TEST_F(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
@@ -74,18 +71,17 @@ TEST_F(CommandLine, FindsDocumentsByPathAndByName) {
     folder_.Write(name, dyesub);
   }
   folder_.Write("both.qdf", "no document");
-  const std::pair<Words, std::string> found[] = {
-      {{"show", "both.qdf"}, "OutputDrivers/both.qdf"},
-      {{"show", "tree"}, "tree"},
-      {{"show", "--", "--json"}, "--json"},
-      {{"show", "./tree"}, "./tree"},
-      {{"-C", "sub", "show", "d.qdf"}, "OutputDrivers/d.qdf"},
-      {{"-C", "", "show", "tree"}, "tree"},
-      {{"-C", "sub", "-C", "..", "show", "tree"}, "tree"},
+  const std::pair<const char*, const char*> found[] = {
+      {"show both.qdf", "OutputDrivers/both.qdf"},
+      {"show tree", "tree"},
+      {"show -- --json", "--json"},
+      {"show ./tree", "./tree"},
+      {"-C sub show d.qdf", "OutputDrivers/d.qdf"},
+      {"-C '' show tree", "tree"},
+      {"-C sub -C .. show tree", "tree"},
   };
-  for (const auto& [words, path] : found) {
-    const Outcome outcome = RunWords(words);
-    EXPECT_TRUE(outcome.out.starts_with("Document:           " + path + '\n')) << outcome;
+  for (const auto& [line, path] : found) {
+    EXPECT_THAT(Run(line).out, StartsWith(Join({"Document:           ", path, "\n"}, "")));
   }
   EXPECT_EQ(Run("show ./both.qdf").code, 1);
 }
@@ -129,9 +125,9 @@ TEST_F(Load, SaysWhyAFileCannotBeRead) {
     // An update writes DOC, and loads another document.
     if (command.arguments.front() != "DOC" || command.name == "update") continue;
     for (const auto& [name, line] : refusals) {
-      Words words = {command.name, name};
-      words.insert(words.end(), command.arguments.begin() + 1, command.arguments.end());
-      EXPECT_EQ(RunWords(words), Refused(line)) << command.name;
+      Words words = command.arguments;
+      words.front() = command.name + ' ' + name;
+      EXPECT_EQ(Run(Join(words, " ")), Refused(line)) << command.name;
     }
   }
   EXPECT_EQ(Run("show ./secret", {.asNobody = true}),

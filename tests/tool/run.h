@@ -9,6 +9,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -104,10 +105,12 @@ inline std::string OnTerminal(const Words& words, Setting setting, const std::st
   return shown + outcome.err + "code " + std::to_string(outcome.code);
 }
 
-// Of a line without quotation marks.
+// Of a line without quotation marks, but for '' as an empty word.
 inline Words SplitWords(const std::string& line) {
   std::istringstream stream(line);
-  return {std::istream_iterator<std::string>(stream), {}};
+  Words words(std::istream_iterator<std::string>(stream), {});
+  std::replace(words.begin(), words.end(), std::string("''"), std::string());
+  return words;
 }
 
 // What a refusal says, and nothing else.
