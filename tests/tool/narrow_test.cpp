@@ -52,25 +52,17 @@ TEST_F(Narrow, TellsTheWholeDefaultJob) {
 }
 
 TEST_F(Narrow, TakesAnIDBeforeANameAndTheExactNameFirst) {
-  const struct {
-    const char* choices;
-    const char* level;
-    int id;
-  } rows[] = {
-      {"--ink 1 --media 10", "media", 10},      // an id, although 12 is called so
-      {"--ink 1 --media PL", "media", 12},      // with case
-      {"--ink 1 --media pl", "media", 10},      // with case
-      {"--ink 1 --media plain", "media", 10},   // without
-      {"--ink 1 --media Glossy", "media", 11},  // the one of two that is offered
-      {"--ink 2 --media 13", "media", 13},      // in the tree, but behind the node that offers
-      {"--ink 1 --media 11 --print-mode BE", "printMode", 21},
-      {"--source TRAY", "mediaSource", 51},
+  const std::pair<const char*, const char*> rows[] = {
+      {"--ink 1 --media 10", "Media:  10 Plain\n"},                 // although 12 is called so
+      {"--ink 1 --media PL", "Media:  12 10\n"},                    // with case
+      {"--ink 1 --media pl", "Media:  10 Plain\n"},                 // with case
+      {"--ink 1 --media plain", "Media:  10 Plain\n"},              // without
+      {"--ink 1 --media Glossy", "Media:  11 Glossy (default)\n"},  // that of two which is offered
+      {"--ink 2 --media 13", "Media:  13 Glossy\n"},                // behind the node that offers
+      {"--ink 1 --media 11 --print-mode BE", "Print mode:  21 Best (default)\n"},
+      {"--source TRAY", "Media source:  51 Tray (default)\n"},
   };
-  for (const auto& row : rows) {
-    const nlohmann::json answer = Json(row.choices);
-    ASSERT_TRUE(answer.is_object()) << row.choices;
-    EXPECT_EQ(answer["choice"][row.level]["id"], row.id) << row.choices;
-  }
+  for (const auto& [choices, told] : rows) EXPECT_THAT(Run(choices).out, HasSubstr(told));
 }
 
 TEST_F(Narrow, ListsTheChoicesForAnUnknownOrAmbiguousName) {
@@ -186,6 +178,8 @@ TEST_F(Narrow, KnowsTheChangesThatGiveAnAnswer) {
     EXPECT_THAT(std::string(job["text"]), HasSubstr(". " + changes + " would give an answer."));
     EXPECT_EQ(job["answers"], false);
   }
+  EXPECT_EQ(Json(rows[0].first + " --why")["job"]["changes"], nlohmann::json::parse(R"([
+      {"level": "printMode", "id": 1, "displayName": "", "internalName": ""}])"));
 }
 
 }  // namespace
