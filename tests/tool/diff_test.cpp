@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/documents.h"
 #include "tests/tool/document.h"
 
 namespace {
@@ -65,29 +64,16 @@ Settings of combinations (2)
 
 // A path that stops on its way is no combination, and one that now goes on is won.
 TEST_F(Diff, TellsDeadEndsApartFromCombinations) {
-  const std::string text = Edited(
+  const nlohmann::json told = ToldOf(Edited(
       {{"<Ink ID=\"2\"><Media ID=\"10\"/></Ink>", "<Ink ID=\"2\"><Media ID=\"11,12\"/></Ink>"},
-       {"<MediaSize ID=\"60\"/>", ""}});
-  const std::string told = With(text).out;
-  EXPECT_THAT(told, HasSubstr("\n  Matte Black  every but Glossy (gl2)         2\n"));
-  EXPECT_THAT(told, HasSubstr(R"(
-Media source combinations
-  Before:  5
-  After:   4
-  Kept:    4
-  Lost:    1
-  Won:     0
-
-Groups of media source combinations lost (1)
-  Media source  How many
-  Tray                 1
-
-Dead ends of media sources new (1)
-  Media source  How many
-  Tray                 1
-)"));
-  EXPECT_EQ(ToldOf(text)["deadEndsNew"][0]["media"],
-            nlohmann::json({{"except", {"Glossy (gl2)"}}}));
+       {"<MediaSize ID=\"60\"/>", ""}}));
+  EXPECT_EQ(told["deadEndsNew"][0]["media"], nlohmann::json({{"except", {"Glossy (gl2)"}}}));
+  EXPECT_EQ(told["deadEndsNew"][0]["count"], 2);
+  EXPECT_EQ(told["mediaSourceCombinations"].dump(),
+            R"({"after":4,"before":5,"kept":4,"lost":1,"won":0})");
+  for (const char* tray : {"mediaSourceCombinationsLost", "mediaSourceDeadEndsNew"}) {
+    EXPECT_EQ(told[tray][0]["mediaSource"], nlohmann::json({{"only", {"Tray"}}})) << tray;
+  }
   // Without margins it is one.
   const Edit margins = {"<MediaSize ID=\"60\"/>", "<MediaSize ID=\"60\" MarginIDList=\"70\"/>"};
   EXPECT_THAT(With(Edited({margins})).out, HasSubstr(R"( combinations lost (1)

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/documents.h"
 #include "tests/tool/document.h"
 
 namespace {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {

@@ -54,14 +54,12 @@ TEST_F(QdfWrite, SaysWhyNothingWasWritten) {
 }
 
 TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
-  const std::string entries = "key_DisplayName_ForMedia=pl/Everyday\n";
   const std::pair<const char*, std::string> files[] = {
       {"old.qdf", "former content"},
       {"OutputDrivers/small.qdf", kSmallDocument},
       {"OutputDrivers/small.qdf.bak", "older"},
       {"OutputDrivers/small.txt", "Glossy=Brillant\n"},
-      {"OutputDrivers/small_custom.txt",
-       entries + "key_Iccprofile=" + std::string(900, 'p') + '\n' + entries},
+      {"OutputDrivers/small_custom.txt", "key_Iccprofile=" + std::string(900, 'p') + '\n'},
   };
   for (const auto& [name, content] : files) folder_.Write(name, content);
   WriteResource(folder_, "res", {});
