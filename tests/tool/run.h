@@ -5,7 +5,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
-#include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -53,8 +52,8 @@ inline std::string ReadBack(int file) {
   return bytes;
 }
 
-[[noreturn]] inline void BecomeTool(int program, Words words, const Setting& setting, int out,
-                                    int err) {
+// Answers only when it can't.
+inline int BecomeTool(int program, Words words, const Setting& setting, int out, int err) {
   constexpr uid_t kNobody = 65534;
   words.insert(words.begin(), "qdf");
   std::vector<char*> arguments;
@@ -67,7 +66,7 @@ inline std::string ReadBack(int file) {
                      (!setting.asNobody || geteuid() != 0 || setuid(kNobody) == 0);
   if (setting.mostBytes != 0) LimitFileSizes(setting.mostBytes);
   if (ready) fexecve(program, arguments.data(), environ);
-  _exit(127);
+  return 127;
 }
 
 inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
@@ -75,13 +74,11 @@ inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
   const int program = open(QDF_PROGRAM, O_RDONLY | O_CLOEXEC);
   const int out = memfd_create("out", MFD_CLOEXEC);
   const int err = memfd_create("err", MFD_CLOEXEC);
-  const pid_t child = fork();
-  if (child == 0) BecomeTool(program, words, setting, setting.out >= 0 ? setting.out : out, err);
-  int status = 0;
-  waitpid(child, &status, 0);
+  const int code = InChild([&] {
+    return BecomeTool(program, words, setting, setting.out >= 0 ? setting.out : out, err);
+  });
   close(program);
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ReadBack(out),
-          ReadBack(err)};
+  return {code, ReadBack(out), ReadBack(err)};
 }
 
 // What a person at a terminal sees who has typed that blindly, and the exit code behind it.
