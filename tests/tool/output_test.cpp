@@ -29,6 +29,7 @@ TEST(Output, TellsAFullDiskAndEndsQuietlyWhenNobodyReads) {
               (Outcome{1, "", "qdf: standard output: No space left on device\n"}));
     EXPECT_EQ(RunTool(words, {.out = ends[1]}), (Outcome{0}));
   }
+  EXPECT_EQ(RunTool({"--help"}, {.mostBytes = 100}).err, "qdf: standard output: File too large\n");
   close(full);
   close(ends[1]);
 }

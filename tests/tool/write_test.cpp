@@ -130,7 +130,7 @@ Print modes (2)
 
 TEST_F(QdfUpdate, BacksUpWithTheDocumentsRightsAndThroughNoLink) {
   folder_.Write("foreign", "kept");
-  ASSERT_EQ(chmod(folder_.Path(kPath).c_str(), 0600), 0);
+  ASSERT_EQ(chmod(folder_.Path(kPath).c_str(), 0640), 0);
   const std::string backup = folder_.Path("OutputDrivers/small.qdf.bak");
   fs::create_symlink("../foreign", backup);
   EXPECT_EQ(Run("update small.qdf res"),
@@ -139,7 +139,7 @@ TEST_F(QdfUpdate, BacksUpWithTheDocumentsRightsAndThroughNoLink) {
   EXPECT_EQ(File("foreign"), "kept");
   fs::remove(backup);
   EXPECT_EQ(Run("update small.qdf res").code, 0);
-  EXPECT_EQ(fs::status(backup).permissions(), fs::perms{0600});
+  EXPECT_EQ(fs::status(backup).permissions(), fs::perms{0640});
 }
 
 TEST_F(QdfUpdate, WritesElsewhereWhatFollowsThePreviousDocument) {
