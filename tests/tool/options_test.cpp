@@ -15,6 +15,7 @@ class QdfOptions : public QdfTest {
   QdfOptions() {
     WriteColours("a.opt", [](ANewColorOpt&) {});
     WriteColours("b.opt", [](ANewColorOpt& gold) {
+      gold.Colorant.ColorDepth = 3;
       gold.Frequency = 60.1F;
       gold.Setting9 = 4'000'000'000U;
       gold.CurveValues[2] = 0.2;
@@ -40,7 +41,7 @@ class QdfOptions : public QdfTest {
 TEST_F(QdfOptions, ShowsEachRecord) {
   EXPECT_EQ(
       From("       2", Run("options b.opt")),
-      "       2  Gold      G             1     1      1  Diamond       60.1     45   4   0   0   "
+      "       2  Gold      G             3     1      1  Diamond       60.1     45   4   0   0   "
       "0   0  -1  4000000000  100   0  1 point off\n");
   const nlohmann::json gold = Json("options b.opt")["records"][1];
   EXPECT_EQ(gold["frequency"], 60.1);
@@ -51,8 +52,9 @@ TEST_F(QdfOptions, ShowsEachRecord) {
 }
 
 TEST_F(QdfOptions, TellsWhichDifferenceMeansRasterisingAgain) {
-  EXPECT_EQ(From("Differences", Run("options a.opt b.opt")), R"(Differences (4)
+  EXPECT_EQ(From("Differences", Run("options a.opt b.opt")), R"(Differences (5)
   Record  Colorant  Field          First      Second  Rasterise again
+       2  Gold      Depth              1           3  yes
        2  Gold      Frequency         55        60.1  yes
        2  Gold      S9                 1  4000000000
        2  Gold      Curve value 2    0.1         0.2  yes
