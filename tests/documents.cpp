@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "tests/files.h"
@@ -69,19 +68,15 @@ std::string Attribute(Text name, Text value) {
   return std::string(" ").append(name).append("=\"").append(value) + "\"";
 }
 
-struct LevelNames {
-  Text element, defaultAttribute;
-};
-constexpr std::array<LevelNames, 6> kControlLevels = {{{"Control_Definition", "DefaultInk"},
-                                                       {"Ink", "DefaultMedia"},
-                                                       {"Media", "DefaultPrintMode"},
-                                                       {"PrintMode", "DefaultResolution"},
-                                                       {"Resolution", "DefaultColorMode"},
-                                                       {"ColorMode", "Default"}}};
+// Each with its attribute for the default below it.
+constexpr std::pair<Text, Text> kControlLevels[] = {
+    {"Control_Definition", "DefaultInk"}, {"Ink", "DefaultMedia"},
+    {"Media", "DefaultPrintMode"},        {"PrintMode", "DefaultResolution"},
+    {"Resolution", "DefaultColorMode"},   {"ColorMode", "Default"}};
 
 std::string ControlElement(const ShortNode& node, std::size_t level, Text leaves) {
-  const auto& [name, defaultAttribute] = kControlLevels.at(level);
-  std::string children(level + 1 == kControlLevels.size() ? leaves : "");
+  const auto& [name, defaultAttribute] = kControlLevels[level];
+  std::string children(level + 1 == std::size(kControlLevels) ? leaves : "");
   for (const ShortNode& child : node.children) children += ControlElement(child, level + 1, leaves);
   return Element(name, children,
                  Attribute("ID", node.ids) + Attribute(defaultAttribute, node.defaultID));
@@ -168,11 +163,9 @@ std::unique_ptr<APMQDF> Load(const DocumentText& document) { return LoadText(doc
 
 std::string Join(const std::vector<std::string>& texts, std::string_view between) {
   std::string joined;
-  bool first = true;
   for (const std::string& text : texts) {
-    if (!first) joined += between;
+    if (&text != &texts.front()) joined += between;
     joined += text;
-    first = false;
   }
   return joined;
 }

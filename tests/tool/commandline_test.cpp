@@ -1,90 +1,62 @@
-// What the program makes of its words, whatever the command.
+// What the program makes of its words and of the documents that they name, whatever the command.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
-#include "tests/files.h"
-#include "tests/hpimport/resources.h"
-#include "tests/tool/colours.h"
-#include "tests/tool/commands.h"
 #include "tests/tool/run.h"
 
 namespace {
 
-struct Refusal {
-  Words words;
-  const char* line;
-};
+namespace fs = std::filesystem;
+using testing::StartsWith;
 
-TEST(CommandLine, RefusesWrongUsageInOneLine) {
-  const Refusal refusals[] = {
-      {{}, "a command is missing; try 'qdf --help'"},
-      {{"--json"}, "there is no option \"--json\"; choose from --help, --version, -C"},
-      {{"-C"}, "-C: 1 required DIR missing; try 'qdf --help'"},
-      {{"-C", "nowhere", "show", "x"}, "can't work in \"nowhere\": No such file or directory"},
-      {{"show"}, "DOC is required; try 'qdf show --help'"},
-      {{"show", ""}, "the name of the document is empty"},
-      {{"show", "plot36.qdf", "more"},
-       "nothing is known to do with \"more\"; try 'qdf show --help'"},
-      {{"show", "plot36.qdf", "--lst=inks"},
+using CommandLine = QdfTest;
+
+TEST_F(CommandLine, RefusesWrongUsageInOneLineWithTheNearestFirst) {
+  const Refusals refusals = {
+      {"", "a command is missing; try 'qdf --help'"},
+      {"--json", "there is no option \"--json\"; choose from --help, --version, -C"},
+      {"-C nowhere show x", "can't work in \"nowhere\": No such file or directory"},
+      {"show", "DOC is required; try 'qdf show --help'"},
+      {"show d.qdf more", "nothing is known to do with \"more\"; try 'qdf show --help'"},
+      {"show d.qdf --lst=inks",
        "there is no option \"--lst=inks\"; choose from --list, --json, --help"},
-      {{"show", "plot36.qdf", "--list"}, "--list: 1 required NAME missing; try 'qdf show --help'"},
-      {{"show", "plot36.qdf", "--list", "medium"},
+      {"show d.qdf --list", "--list: 1 required NAME missing; try 'qdf show --help'"},
+      {"show d.qdf --list medium",
        "there is no list \"medium\"; choose from media, media-sizes, media-sources, print-modes, "
        "color-modes, margins, inks, resolutions"},
-      {{"tree", "plot36.qdf", "--depth", "-1"}, "--depth takes a number from 0 on, not \"-1\""},
-      {{"tree", "plot36.qdf", "--depth", "2x"}, "--depth takes a number from 0 on, not \"2x\""},
-      {{"narrow", "plot36.qdf", "--ink", "1", "--ink", "2"},
+      {"tree d.qdf --depth -1", "--depth takes a number from 0 on, not \"-1\""},
+      {"tree d.qdf --depth 2x", "--depth takes a number from 0 on, not \"2x\""},
+      {"narrow d.qdf --ink 1 --ink 2",
        "--ink: At Most 1 required but received 2; try 'qdf narrow --help'"},
-      {{"narrow", "plot36.qdf", "--media", "Plain"}, "--media needs --ink as well, or --defaults"},
-      {{"narrow", "plot36.qdf", "--size", "A4"}, "--size needs --source as well, or --defaults"},
+      {"narrow d.qdf --media Plain", "--media needs --ink as well, or --defaults"},
+      {"narrow d.qdf --size A4", "--size needs --source as well, or --defaults"},
+      {"localise d.qdf -o x --untranslated", "--output and --untranslated don't go together"},
+      {"sweep . --yes --dry-run", "--yes and --dry-run don't go together"},
+      {"show ''", "the name of the document is empty"},
+      {"write d.qdf ''", "the name of the file to write is empty"},
+      {"resources ''", "the name of the folder is empty"},
+      {"sweep ''", "the name of the folder is empty"},
   };
-  for (const Refusal& refusal : refusals) {
-    EXPECT_EQ(RunTool(refusal.words), Refused(refusal.line, 2));
-  }
+  fs::copy(QDF_EXAMPLES "/OutputDrivers/plot36.qdf", folder_.Path("d.qdf"));
+  ExpectRefusals("", refusals, 2);
+  EXPECT_THAT(RunWords({"sow\x1b[1m\n", "d.qdf"}).err,
+              StartsWith("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "));
 }
 
-TEST(CommandLine, SuggestsCommandsTheNearestFirst) {
-  const Outcome outcome = RunTool({"sow\x1b[1m\n", "plot36.qdf"});
-  EXPECT_EQ(outcome.code, 2);
-  EXPECT_TRUE(
-      outcome.err.starts_with("qdf: there is no command \"sow\\x1B[1m\\x0A\"; choose from show, "))
-      << outcome;
-  for (const CommandUsage& command : Commands()) {
-    EXPECT_NE(outcome.err.find(' ' + command.name), std::string::npos) << command.name;
-  }
-}
-
-// The lines behind "Example:" of a help page.
-std::vector<std::string> Examples(const std::string& help) {
-  std::vector<std::string> examples;
-  std::istringstream lines(help.substr(std::min(help.find("Example:"), help.size())));
-  std::string line;
-  while (std::getline(lines, line)) {
-    if (line.starts_with("  qdf ")) examples.push_back(line.substr(6));
-  }
-  return examples;
-}
-
-// What the examples of the help pages take for granted.
-void FillExampleFolder(const TempFolder& folder) {
-  std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("OutputDrivers"));
-  std::filesystem::copy(QDF_EXAMPLES "/OutputDrivers", folder.Path("old"));
-  WriteResource(folder, "resources", {});
-  WriteColours(folder.Path("colours.opt"));
-  WriteColours(folder.Path("changed.opt"));
-}
-
-TEST(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
+TEST_F(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
   const std::vector<CommandUsage> commands = Commands();
   EXPECT_GT(commands.size(), 3U);
   for (const CommandUsage& command : commands) {
+    EXPECT_FALSE(command.arguments.empty()) << command.help;
     const TempFolder folder;
-    FillExampleFolder(folder);
-    const Outcome help = RunTool({command.name, "--help"});
-    EXPECT_EQ(help.code, 0);
-    EXPECT_FALSE(command.arguments.empty()) << help;
-    const std::vector<std::string> examples = Examples(help.out);
-    EXPECT_FALSE(examples.empty()) << help;
+    fs::copy(QDF_EXAMPLES, folder.Path(), fs::copy_options::recursive);
+    fs::copy(folder.Path("OutputDrivers"), folder.Path("old"));
+    fs::rename(folder.Path("options/before.bin"), folder.Path("colours.opt"));
+    fs::rename(folder.Path("options/after.bin"), folder.Path("changed.opt"));
+    const Words examples = LinesBehind("Example:", "  qdf ", command.help);
+    EXPECT_FALSE(examples.empty()) << command.help;
     for (const std::string& example : examples) {
       const Outcome outcome = RunTool(SplitWords(example), {folder.Path()});
       EXPECT_EQ(outcome.code, 0) << example << '\n' << outcome;
@@ -93,33 +65,73 @@ TEST(CommandLine, HelpOfEachCommandHasExamplesThatWork) {
   }
 }
 
-std::string FirstLine(const Outcome& outcome) {
-  return outcome.out.substr(0, outcome.out.find('\n'));
+TEST_F(CommandLine, FindsDocumentsByPathAndByName) {
+  const std::string dyesub = ReadFile(QDF_EXAMPLES "/OutputDrivers/dyesub6.qdf");
+  for (const char* name : {"OutputDrivers/both.qdf", "tree", "--json", "sub/OutputDrivers/d.qdf"}) {
+    folder_.Write(name, dyesub);
+  }
+  folder_.Write("both.qdf", "no document");
+  const std::pair<const char*, const char*> found[] = {
+      {"show both.qdf", "OutputDrivers/both.qdf"},
+      {"show tree", "tree"},
+      {"show -- --json", "--json"},
+      {"show ./tree", "./tree"},
+      {"-C sub show d.qdf", "OutputDrivers/d.qdf"},
+      {"-C '' show tree", "tree"},
+      {"-C sub -C .. show tree", "tree"},
+  };
+  for (const auto& [line, path] : found) {
+    EXPECT_THAT(Run(line).out, StartsWith(Join({"Document:           ", path, "\n"}, "")));
+  }
+  EXPECT_EQ(Run("show ./both.qdf").code, 1);
 }
 
-TEST(CommandLine, FindsDocumentsByPathAndByName) {
-  const std::string dyesub = ReadFile(QDF_EXAMPLES "/OutputDrivers/dyesub6.qdf");
-  const TempFolder folder;
-  folder.Write("OutputDrivers/both.qdf", dyesub);
-  folder.Write("both.qdf", "no document");
-  folder.Write("tree", dyesub);
-  folder.Write("--json", dyesub);
-  folder.Write("sub/OutputDrivers/deep.qdf", dyesub);
-  const Refusal found[] = {
-      {{"show", "both.qdf"}, "Document:           OutputDrivers/both.qdf"},
-      {{"show", "tree"}, "Document:           tree"},
-      {{"show", "--", "--json"}, "Document:           --json"},
-      {{"show", "./tree"}, "Document:           ./tree"},
-      {{"-C", "sub", "show", "deep.qdf"}, "Document:           OutputDrivers/deep.qdf"},
-      {{"-C", "", "show", "tree"}, "Document:           tree"},
-      {{"-C", "sub", "-C", "..", "show", "tree"}, "Document:           tree"},
+using Load = QdfTest;
+
+TEST_F(Load, SaysWhatADocumentLacks) {
+  const Refusals refusals = {
+      {"", ":1:1: there is no root element"},
+      {"<Q>\n  <a>\n</Q>", ":3:1: this end tag does not match its start tag"},
+      {"<Q><X><Definition/></X></Q>", ": the root element has no Definition"},
+      {"<Q><Definition/></Q>",
+       ": Definition has no InkList; Definition has no MediaList; Definition has no PrintModeList; "
+       "Definition has no ResolutionList; Definition has no ColorModeList"},
+      {DocumentText{.MediaList = " - "}.Text(), ": MediaList is empty"},
+      {DocumentText{.InkList = "", .ColorModeList = ""}.Text(),
+       ": InkList is empty; ColorModeList is empty"},
+      {DocumentText{.ColorModeList = "<C/><C><ColorantList/></C>"}.Text(),
+       ": no colour mode of ColorModeList has a colorant"},
   };
-  for (const Refusal& each : found) {
-    const Outcome outcome = RunTool(each.words, {folder.Path()});
-    EXPECT_EQ(FirstLine(outcome), each.line) << outcome;
+  for (const auto& [text, reason] : refusals) {
+    folder_.Write("OutputDrivers/d.qdf", text);
+    EXPECT_EQ(Run("show d.qdf"), Refused("OutputDrivers/d.qdf" + reason));
   }
-  EXPECT_EQ(RunTool({"show", "./both.qdf"}, {folder.Path()}).code, 1);
-  EXPECT_EQ(RunTool({"show", "./deep.qdf"}, {folder.Path()}).code, 1);
+}
+
+TEST_F(Load, SaysWhyAFileCannotBeRead) {
+  ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(symlink("loop", folder_.Path("loop").c_str()), 0);
+  ASSERT_EQ(chmod(folder_.Write("secret", "<Q/>").c_str(), 0), 0);
+  const Refusals refusals = {
+      {"nothing.qdf", "OutputDrivers/nothing.qdf: no such file"},
+      {"./nothing.qdf", "./nothing.qdf: no such file"},
+      {"secret/file", "secret/file: no such file"},
+      {"./", "./: it is a folder"},
+      {"pipe", "pipe: it is no regular file"},
+      {"./loop", "./loop: the links lead nowhere"},
+  };
+  // The same for every command, since all load in one way.
+  for (const CommandUsage& command : Commands()) {
+    // An update writes DOC, and loads another document.
+    if (command.arguments.front() != "DOC" || command.name == "update") continue;
+    for (const auto& [name, line] : refusals) {
+      Words words = command.arguments;
+      words.front() = command.name + ' ' + name;
+      EXPECT_EQ(Run(Join(words, " ")), Refused(line)) << command.name;
+    }
+  }
+  EXPECT_EQ(Run("show ./secret", {.asNobody = true}),
+            Refused("./secret: no permission to read it"));
 }
 
 }  // namespace

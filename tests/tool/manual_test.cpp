@@ -5,41 +5,20 @@
 
 #include <cstdio>
 
-#include "tests/files.h"
-#include "tests/tool/commands.h"
+#include "tests/tool/run.h"
 
 namespace {
 
 constexpr const char* kSources = QDF_EXAMPLES "/..";
 
-// "--json" and the like, out of the options that a help page lists.
-Words LongOptions(const std::string& help) {
-  const std::size_t begin = help.find("\nOptions:\n");
-  std::istringstream words(help.substr(begin, help.find("\n\n", begin) - begin));
+// "--json" and the like.
+Words LongOptions(const CommandUsage& command) {
   Words options;
-  for (std::string line; std::getline(words, line);) {
-    const std::size_t at = line.find("--");
-    if (line.starts_with("  -") && at < 10) {
-      options.push_back(line.substr(at, line.find(' ', at) - at));
-    }
+  for (const std::string& line : LinesBehind("\nOptions:\n", "  -", command.help)) {
+    const std::string option = '-' + line;
+    options.push_back(SplitWords(option.substr(option.find("--"))).front());
   }
   return options;
-}
-
-TEST(Manual, TellsOfEachCommandAndOption) {
-  const std::string page = ReadFile(std::string(kSources) + "/docs/qdf.1");
-  const std::string start = "\n.It Nm Cm ";
-  const std::size_t general = page.find(start);
-  for (const CommandUsage& command : Commands()) {
-    const std::size_t begin = page.find(start + command.name + ' ');
-    ASSERT_NE(begin, std::string::npos) << command.name;
-    const std::string text =
-        page.substr(0, general) + page.substr(begin, page.find(start, begin + 1) - begin);
-    for (const std::string& option : LongOptions(RunTool({command.name, "--help"}).out)) {
-      EXPECT_NE(text.find(' ' + option.substr(1)), std::string::npos)
-          << command.name << ' ' << option;
-    }
-  }
 }
 
 // What bash offers for the last of the words.
@@ -59,12 +38,21 @@ Words Complete(const std::string& folder, const std::string& words) {
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
-TEST(Completion, KnowsEachCommandAndOption) {
+TEST(Manual, TellsOfEachCommandAndOptionAsTheCompletionDoes) {
+  const std::string page = ReadFile(std::string(kSources) + "/docs/qdf.1");
+  const std::string start = "\n.It Nm Cm ";
   Words names;
   for (const CommandUsage& command : Commands()) {
     names.push_back(command.name);
-    EXPECT_THAT(Complete("/", "qdf " + command.name + " --"),
-                UnorderedElementsAreArray(LongOptions(RunTool({command.name, "--help"}).out)));
+    const Words options = LongOptions(command);
+    EXPECT_THAT(Complete("/", "qdf " + command.name + " --"), UnorderedElementsAreArray(options));
+    const std::size_t begin = page.find(start + command.name + ' ');
+    ASSERT_NE(begin, std::string::npos) << command.name;
+    const std::string text =
+        page.substr(0, page.find(start)) + page.substr(begin, page.find(start, begin + 1) - begin);
+    for (const std::string& option : options) {
+      EXPECT_THAT(text, testing::HasSubstr(' ' + option.substr(1))) << command.name;
+    }
   }
   EXPECT_THAT(Complete("/", "qdf ''"), UnorderedElementsAreArray(names));
   for (const std::string& list : Complete("/", "qdf show --list = ''")) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/documents.h"
 #include "tests/tool/run.h"
 
 namespace {
@@ -10,34 +9,28 @@ namespace {
 const Words kInks = {"show", "plot36.qdf", "--list", "inks"};
 
 TEST(Output, IsBoldOnATerminalOnly) {
-  const std::string bold =
-      "\x1b[1mInks (1)\x1b[0m\r\n"
-      "  \x1b[1mID  Display name  Internal name\x1b[0m\r\n"
-      "   1  Standard      Standard\r\ncode 0";
   const std::string plain =
-      "Inks (1)\r\n"
-      "  ID  Display name  Internal name\r\n"
-      "   1  Standard      Standard\r\ncode 0";
-  EXPECT_EQ(OnTerminal(kInks, {}), bold);
+      "Inks (1)\r\n  ID  Display name  Internal name\r\n   1  Standard      Standard\r\ncode 0";
+  EXPECT_EQ(OnTerminal(kInks, {}),
+            "\x1b[1mInks (1)\x1b[0m\r\n  \x1b[1mID  Display name  Internal name\x1b[0m\r\n"
+            "   1  Standard      Standard\r\ncode 0");
   EXPECT_EQ(OnTerminal(kInks, {.environment = {"NO_COLOR=1", "TERM=xterm"}}), plain);
   EXPECT_EQ(OnTerminal(kInks, {.environment = {"NO_COLOR=", "TERM=dumb"}}), plain);
   EXPECT_EQ(RunTool(kInks).out.find('\x1b'), std::string::npos);
 }
 
-TEST(Output, SaysWhenItCannotBeWritten) {
+TEST(Output, TellsAFullDiskAndEndsQuietlyWhenNobodyReads) {
   const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
-  const Outcome noSpace{1, "", "qdf: standard output: No space left on device\n"};
-  EXPECT_EQ(RunTool(kInks, {.out = full}), noSpace);
-  EXPECT_EQ(RunTool({"tree", "plot36.qdf", "--json"}, {.out = full}), noSpace);
-  EXPECT_EQ(RunTool({"--help"}, {.out = full}), noSpace);
-  close(full);
-}
-
-TEST(Output, EndsQuietlyWhenNobodyReads) {
   int ends[2];
   ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
   close(ends[0]);
-  EXPECT_EQ(RunTool({"tree", "plot36.qdf"}, {.out = ends[1]}), (Outcome{0}));
+  for (const Words& words : {kInks, {"tree", "plot36.qdf", "--json"}, {"--help"}}) {
+    EXPECT_EQ(RunTool(words, {.out = full}),
+              (Outcome{1, "", "qdf: standard output: No space left on device\n"}));
+    EXPECT_EQ(RunTool(words, {.out = ends[1]}), (Outcome{0}));
+  }
+  EXPECT_EQ(RunTool({"--help"}, {.mostBytes = 100}).err, "qdf: standard output: File too large\n");
+  close(full);
   close(ends[1]);
 }
 

@@ -5,10 +5,10 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
-#include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -16,6 +16,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/children.h"
+#include "tests/documents.h"
 #include "tests/files.h"
 
 using Words = std::vector<std::string>;
@@ -38,21 +40,20 @@ inline std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
 struct Setting {
   std::string folder = QDF_EXAMPLES;
   Words environment{"NO_COLOR=", "TERM=xterm"};
-  int in = -1;            // is read instead of nothing
-  int out = -1;           // takes standard output instead of the outcome
-  bool asNobody = false;  // without root's rights to read everything
+  int in = -1;                  // is read instead of nothing
+  int out = -1;                 // takes standard output instead of the outcome
+  bool asNobody = false;        // without root's rights to read everything
+  unsigned long mostBytes = 0;  // of a file that it writes, unless 0
 };
 
 inline std::string ReadBack(int file) {
-  std::string bytes(static_cast<std::size_t>(lseek(file, 0, SEEK_END)), '\0');
-  const ssize_t got = pread(file, bytes.data(), bytes.size(), 0);
+  std::string bytes = ReadFile("/proc/self/fd/" + std::to_string(file));
   close(file);
-  bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
   return bytes;
 }
 
-[[noreturn]] inline void BecomeTool(int program, Words words, const Setting& setting, int out,
-                                    int err) {
+// Answers only when it can't.
+inline int BecomeTool(int program, Words words, const Setting& setting, int out, int err) {
   constexpr uid_t kNobody = 65534;
   words.insert(words.begin(), "qdf");
   std::vector<char*> arguments;
@@ -63,8 +64,9 @@ inline std::string ReadBack(int file) {
   const bool ready = chdir(setting.folder.c_str()) == 0 && dup2(in, STDIN_FILENO) >= 0 &&
                      dup2(out, STDOUT_FILENO) >= 0 && dup2(err, STDERR_FILENO) >= 0 &&
                      (!setting.asNobody || geteuid() != 0 || setuid(kNobody) == 0);
+  if (setting.mostBytes != 0) LimitFileSizes(setting.mostBytes);
   if (ready) fexecve(program, arguments.data(), environ);
-  _exit(127);
+  return 127;
 }
 
 inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
@@ -72,13 +74,11 @@ inline Outcome RunTool(const Words& words, const Setting& setting = {}) {
   const int program = open(QDF_PROGRAM, O_RDONLY | O_CLOEXEC);
   const int out = memfd_create("out", MFD_CLOEXEC);
   const int err = memfd_create("err", MFD_CLOEXEC);
-  const pid_t child = fork();
-  if (child == 0) BecomeTool(program, words, setting, setting.out >= 0 ? setting.out : out, err);
-  int status = 0;
-  waitpid(child, &status, 0);
+  const int code = InChild([&] {
+    return BecomeTool(program, words, setting, setting.out >= 0 ? setting.out : out, err);
+  });
   close(program);
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ReadBack(out),
-          ReadBack(err)};
+  return {code, ReadBack(out), ReadBack(err)};
 }
 
 // What a person at a terminal sees who has typed that blindly, and the exit code behind it.
@@ -102,19 +102,12 @@ inline std::string OnTerminal(const Words& words, Setting setting, const std::st
   return shown + outcome.err + "code " + std::to_string(outcome.code);
 }
 
-// Of a line without quotation marks.
+// Of a line without quotation marks, but for '' as an empty word.
 inline Words SplitWords(const std::string& line) {
   std::istringstream stream(line);
-  return {std::istream_iterator<std::string>(stream), {}};
-}
-
-// What the tool says with --json; null, which equals nothing that is looked for, unless it answered
-// with exit code 0 and well-formed JSON.
-inline nlohmann::json RunJson(Words words, const Setting& setting = {}) {
-  words.emplace_back("--json");
-  const Outcome outcome = RunTool(words, setting);
-  if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
-  return nlohmann::json::parse(outcome.out, nullptr, false);
+  Words words(std::istream_iterator<std::string>(stream), {});
+  std::replace(words.begin(), words.end(), std::string("''"), std::string());
+  return words;
 }
 
 // What a refusal says, and nothing else.
@@ -122,11 +115,37 @@ inline Outcome Refused(const std::string& line, int code = 1) {
   return {code, "", "qdf: " + line + '\n'};
 }
 
-// What it prints from the mark on, up to the other one.
-inline std::string From(const std::string& mark, const Outcome& outcome,
-                        const std::string& end = "no such text") {
-  const std::string text = outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
-  return text.substr(0, text.find(end));
+// What it prints from the mark on.
+inline std::string From(const std::string& mark, const Outcome& outcome) {
+  return outcome.out.substr(std::min(outcome.out.find(mark), outcome.out.size()));
+}
+
+// The lines behind the mark that begin so, without their beginning.
+inline Words LinesBehind(const std::string& mark, const std::string& beginning,
+                         const std::string& text) {
+  std::istringstream lines(text.substr(std::min(text.find(mark), text.size())));
+  Words found;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(beginning)) found.push_back(line.substr(beginning.size()));
+  }
+  return found;
+}
+
+struct CommandUsage {
+  std::string name, help;
+  Words arguments;  // "DOC" and the like, those that may be left out in brackets
+};
+
+// The commands, as the program's own help tells them.
+inline std::vector<CommandUsage> Commands() {
+  std::vector<CommandUsage> commands;
+  for (const std::string& line : LinesBehind("\nCommands:\n", "  ", RunTool({"--help"}).out)) {
+    const std::string name = SplitWords(line).front();
+    const std::string help = RunTool({name, "--help"}).out;
+    const Words usage = LinesBehind("", "Usage: qdf " + name + " [OPTIONS] ", help);
+    commands.push_back({name, help, SplitWords(Join(usage, " "))});
+  }
+  return commands;
 }
 
 using Refusals = std::vector<std::pair<std::string, std::string>>;
@@ -141,8 +160,12 @@ class QdfTest : public testing::Test {
   Outcome Run(const std::string& line, const Setting& setting = {}) const {
     return RunWords(SplitWords(line), setting);
   }
+  // What the tool says with --json; null, which equals nothing that is looked for, unless it
+  // answered with exit code 0 and well-formed JSON.
   nlohmann::json Json(const std::string& line) const {
-    return RunJson(SplitWords(line), {folder_.Path()});
+    const Outcome outcome = Run(line + " --json");
+    if (outcome.code != 0 || !outcome.err.empty()) return nullptr;
+    return nlohmann::json::parse(outcome.out, nullptr, false);
   }
   // The command with the words of each row says what stands beside them, and nothing else.
   void ExpectRefusals(const std::string& command, const Refusals& rows, int code = 1) const {
