@@ -1,3 +1,5 @@
+// Lists of ids in attributes: which ids they name.
+
 #include "qdf/control/idlist.h"
 
 #include <gtest/gtest.h>

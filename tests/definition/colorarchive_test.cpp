@@ -1,3 +1,5 @@
+// Colour options in archives: their stored form, older and newer records, and records cut short.
+
 #include "qdf/definition/colorarchive.h"
 
 #include <gmock/gmock.h>

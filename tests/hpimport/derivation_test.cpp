@@ -1,3 +1,5 @@
+// What a document derived from HP resources holds: its lists, their ids, and its control tree.
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>

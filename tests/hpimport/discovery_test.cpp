@@ -1,3 +1,5 @@
+// Which files of a folder tree are HP resources, and what is read from them.
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

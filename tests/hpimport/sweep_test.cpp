@@ -1,3 +1,5 @@
+// Which media folders a sweep takes for unsound and deletes.
+
 #include "qdf/hpimport/sweep.h"
 
 #include <gmock/gmock.h>

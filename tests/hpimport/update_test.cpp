@@ -1,3 +1,5 @@
+// What an update keeps of the previous document, and when it writes nothing.
+
 #include "qdf/hpimport/update.h"
 
 #include <gtest/gtest.h>

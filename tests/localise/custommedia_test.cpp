@@ -1,3 +1,5 @@
+// Custom media files: what is loaded, answered, set and saved.
+
 #include "qdf/localise/custommedia.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// Which names of a document its translation table changes.
+
 #include "qdf/localise/localise.h"
 
 #include <gtest/gtest.h>

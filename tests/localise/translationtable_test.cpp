@@ -1,3 +1,5 @@
+// The lines of a translation table: which count, and what they hold.
+
 #include "qdf/localise/translationtable.h"
 
 #include <gtest/gtest.h>

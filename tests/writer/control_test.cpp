@@ -1,3 +1,5 @@
+// The control tree as it is written.
+
 #include "qdf/core/documentmembers.h"
 #include "tests/writer/written.h"
 

@@ -1,3 +1,5 @@
+// The lists and the header as they are written.
+
 #include "qdf/core/documentmembers.h"
 #include "tests/writer/written.h"
 

@@ -1,3 +1,5 @@
+// What a write asks of the document, and through what.
+
 #include "tests/writer/written.h"
 
 namespace {
