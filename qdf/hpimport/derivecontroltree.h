@@ -19,7 +19,8 @@ int DeriveControlTree(APtrArray& resources, APtrArray& inkList, APtrArray& media
                       AStringArray& ditherNames);
 
 // The steps of the derivation, each by itself and as plainly as it can be said. DeriveControlTree
-// takes quicker ways to the same results, which the fuzz target `derivation` compares with these.
+// takes quicker ways to the same results where there is much, which fuzz targets compare with
+// these.
 
 // The first child, in order, that has an id in common with `ids`; it takes over the others of them.
 // Without one a new child with these ids.

@@ -10,14 +10,16 @@ namespace {
 // A look at so many ids costs no more than to remember them.
 constexpr int kFewIDs = 8;
 
-// Such a parent isn't in the index. What has grown beyond this never comes back to it.
+int CountIDs(const CQDFNode& parent) {
+  int count = 0;
+  for (int i = 0; i < parent.Children.GetSize(); ++i) count += ChildAt(parent, i)->IDs.GetSize();
+  return count;
+}
+
+// Such a parent is walked and isn't in the index. What has grown beyond this never comes back to
+// it.
 bool HasFewIDs(const CQDFNode& parent) {
-  const int children = parent.Children.GetSize();
-  int ids = 0;
-  for (int i = 0; i < children && children <= kFewIDs && ids <= kFewIDs; ++i) {
-    ids += ChildAt(parent, i)->IDs.GetSize();
-  }
-  return children <= kFewIDs && ids <= kFewIDs;
+  return parent.Children.GetSize() <= kFewIDs && CountIDs(parent) <= kFewIDs;
 }
 
 }  // namespace
@@ -60,14 +62,19 @@ GrowingTree::Found* GrowingTree::FormerlyFound(const CQDFNode& parent, const ADW
   return at >= 0 ? &found_[static_cast<std::size_t>(at)] : nullptr;
 }
 
-void GrowingTree::Remember(const CQDFNode& parent, const ADWordArray& ids, int child) {
+void GrowingTree::Remember(const CQDFNode& parent, const ADWordArray& ids, CQDFNode& child) {
+  const Found found{&parent, &ids, &child, StateOf(parent)};
   Found* former = FormerlyFound(parent, ids);
   if (former != nullptr) {
-    *former = {&parent, &ids, child, moves_};
+    *former = found;
   } else {
     foundIndex_.Add(HashAddress(&parent) + HashAddress(&ids), static_cast<int>(found_.size()));
-    found_.push_back({&parent, &ids, child, moves_});
+    found_.push_back(found);
   }
+}
+
+int GrowingTree::StateOf(const CQDFNode& parent) const {
+  return HasFewIDs(parent) ? CountIDs(parent) : kFewIDs + 1 + moves_;
 }
 
 void GrowingTree::IndexChildren(const CQDFNode& parent) {
@@ -78,16 +85,7 @@ void GrowingTree::IndexChildren(const CQDFNode& parent) {
   }
 }
 
-CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
-  if (HasFewIDs(parent)) {
-    CQDFNode& child = *::FindOrAddChild(&parent, ids);
-    if (!HasFewIDs(parent)) IndexChildren(parent);
-    return child;
-  }
-  const bool isLarge = ids.GetSize() > kFewIDs;
-  const Found* former = isLarge ? FormerlyFound(parent, ids) : nullptr;
-  // Without a move since then, the same child is still the first and holds all the ids.
-  if (former != nullptr && former->moves == moves_) return *ChildAt(parent, former->child);
+CQDFNode& GrowingTree::FindOrAddByIndex(CQDFNode& parent, ADWordArray& ids) {
   const int child = FirstWithAny(parent, ids);
   const bool isNew = child == parent.Children.GetSize();
   CQDFNode& node = isNew ? *AddChildNode(parent, ids) : *ChildAt(parent, child);
@@ -95,6 +93,16 @@ CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
   for (const std::uint32_t id : ids) {
     if (SetHolder(parent, id, child) && !isNew) node.IDs.Add(id);
   }
-  if (isLarge) Remember(parent, ids, child);
   return node;
+}
+
+CQDFNode& GrowingTree::FindOrAddChild(CQDFNode& parent, ADWordArray& ids) {
+  const bool isLarge = ids.GetSize() > kFewIDs;
+  const Found* former = isLarge ? FormerlyFound(parent, ids) : nullptr;
+  if (former != nullptr && former->state == StateOf(parent)) return *former->child;
+  const bool isWalked = HasFewIDs(parent);
+  CQDFNode& child = isWalked ? *::FindOrAddChild(&parent, ids) : FindOrAddByIndex(parent, ids);
+  if (isWalked && !HasFewIDs(parent)) IndexChildren(parent);
+  if (isLarge) Remember(parent, ids, child);
+  return child;
 }

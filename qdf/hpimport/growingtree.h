@@ -1,6 +1,7 @@
 #pragma once
 
-// GrowingTree finds a node's child by its ids without a walk over all children, while a tree grows.
+// GrowingTree finds a node's child by its ids without a walk over many children, while a tree
+// grows.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,22 +17,26 @@ class GrowingTree {
   CQDFNode& FindOrAddChild(CQDFNode& parent, ADWordArray& ids);
 
  private:
-  // The first child of the parent that holds the id.
+  // The first child that holds the id, of a parent that isn't walked.
   struct Holder {
     const CQDFNode* parent;
     std::uint32_t id;
     int child;
   };
-  // Where a large set of ids was found, and how many moves there had been then.
+  // Where a large set of ids was found, and the state of the parent then.
   struct Found {
     const CQDFNode* parent;
     const ADWordArray* ids;
-    int child;
-    int moves;
+    CQDFNode* child;
+    int state;
   };
 
   Found* FormerlyFound(const CQDFNode& parent, const ADWordArray& ids);
-  void Remember(const CQDFNode& parent, const ADWordArray& ids, int child);
+  void Remember(const CQDFNode& parent, const ADWordArray& ids, CQDFNode& child);
+  // As long as it stays the same, a set that was found is found in the same child, which holds all
+  // of it.
+  int StateOf(const CQDFNode& parent) const;
+  CQDFNode& FindOrAddByIndex(CQDFNode& parent, ADWordArray& ids);
   Holder* HolderOf(const CQDFNode& parent, std::uint32_t id);
   int FirstWithAny(const CQDFNode& parent, const ADWordArray& ids);
   // False when the child is its holder already.

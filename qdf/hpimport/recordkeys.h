@@ -93,7 +93,7 @@ class KeyIndex {
                        [&](int i) { return IsEqual(keys_[static_cast<std::size_t>(i)], key); });
   }
 
-  KeyTexts texts_;
+  KeyTexts texts_{std::pmr::new_delete_resource()};  // not what the host made the default
   std::vector<Key> keys_;
   HashIndex index_;
 };

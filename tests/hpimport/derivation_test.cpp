@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <limits>
+#include <memory_resource>
 #include <random>
 
 #include "qdf/hpimport/derivecontroltree.h"
@@ -69,8 +70,14 @@ TEST(DeriveMedia, KeepTheirIdsByBothNamesAndAreNumberedOnByKind) {
   EXPECT_EQ(Media({{}}, "9=Gloss/Glossy;7=Gloss/Glossy"), "9=Glossy/Gloss");
   EXPECT_EQ(Media({{}, {.media = "N", .customizable = 1}}, "-5=Gloss/Glossy"),
             "-5=Glossy/Gloss;10001=N/Gloss*");
-  // Names count with as many characters as a field holds.
+}
+
+TEST(Derivation, CountsNamesWithAsManyCharactersAsAFieldHolds) {
   const std::string full(256, 'x');
+  const Derived cut = All({{.printQuality = full + "1", .resolution = full + "1"},
+                           {.printQuality = full + "2", .resolution = full + "2"}});
+  EXPECT_EQ(cut.printModes, "1=best/" + full);
+  EXPECT_EQ(cut.resolutions, "1=" + full + "/600x600");
   EXPECT_EQ(Media({{.media = full, .displayNames = {full + "1", full + "2"}},
                    {.media = full + "3", .displayNames = {full}}},
                   "7=" + full + "/" + full),
@@ -140,6 +147,12 @@ TEST(Derivation, CountsWhatTheListsHoldAlready) {
             "1=CMYK/No(Cyan 2,Magenta 2,Yellow 2,Black 1);2=Gray Scale/Yes(Gray 1)");
 }
 
+TEST(Derivation, TakesNoMemoryFromWhatTheHostMadeTheDefault) {
+  std::pmr::set_default_resource(std::pmr::null_memory_resource());
+  EXPECT_EQ(All({{}}).media, "1=Glossy/Gloss");
+  std::pmr::set_default_resource(nullptr);
+}
+
 TEST(DeriveTree, GivesEachResourceAPath) {
   EXPECT_EQ(Tree({{}}), ">1[1>1[1>1[1[1[1,2[0;0>-1]]]]]] f.xml p.icc 101");
   EXPECT_EQ(Tree({{.profile = ""}}), ">1[1>1[1>1[1[1[1,2[>-1;0>-1]]]]]] f.xml  101");
@@ -182,14 +195,19 @@ TEST(Derivation, EndsAtTheFirstStepThatGivesNothing) {
   EXPECT_EQ(DocumentMembers(withoutInks).MediaList.GetSize(), 0);
 }
 
-// The sets overlap, some are small, and a set is met again when its child has grown by others.
+// The sets overlap, most are small in half of the trees, some repeat few ids, and a set is met
+// again when its child has grown by others.
 TEST(DeriveTree, GrowsFastAsAWalkDoes) {
   std::minstd_rand random(7);
-  for (int tree = 0; tree < 200; ++tree) {
+  for (int tree = 0; tree < 400; ++tree) {
+    const bool isSmall = tree < 200;
     std::vector<ADWordArray> sets(12);
     for (ADWordArray& ids : sets) {
-      for (auto count = random() % (tree % 2 == 0 ? 3 : 14); count > 0; --count) {
-        ids.Add(static_cast<std::uint32_t>(random() % 40));
+      const auto first = random();
+      const auto different = 1 + random() % (isSmall ? 2 : 14);
+      const auto count = isSmall && random() % 4 != 0 ? 1 + random() % 2 : random() % 14;
+      for (auto i = count; i > 0; --i) {
+        ids.Add(static_cast<std::uint32_t>((first + random() % different) % (isSmall ? 8 : 40)));
       }
     }
     CQDFNode walked;
