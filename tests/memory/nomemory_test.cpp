@@ -255,6 +255,10 @@ TEST_F(NoMemory, ArchivesTellThatTheyLackSomething) {
 
 TEST_F(NoMemory, UpdatesWriteAllOrNothing) {
   WriteResource(folder_, "tree", {});
+  // So many media that they are indexed.
+  for (char name = 'A'; name < 'J'; ++name) {
+    WriteResource(folder_, "tree", {.media = std::string(30, name)});
+  }
   const AFilePath path("dyesub6.qdf");
   AFilePath tree("tree");
   PMUpdateQDF(path, tree);
