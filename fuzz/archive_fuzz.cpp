@@ -1,5 +1,5 @@
-// Archives: any bytes are read without harm and in a bounded number of steps; records and texts
-// that were written come back, also past tags that the reader doesn't ask for.
+// Archives: any bytes are read without harm and in a bounded number of steps; what is read of a
+// written archive, also past tags that the reader doesn't ask for, gives the same archive again.
 
 #include "fuzz/fuzzing.h"
 #include "qdf/definition/colorarchive.h"

@@ -33,7 +33,8 @@ pugi::xpath_node Choose(Random& random, const pugi::xml_document& document, cons
   return found.empty() ? pugi::xpath_node() : found[random() % found.size()];
 }
 
-// An attribute stands once.
+// One change: an element is removed, repeated, moved or renamed, a text or an attribute set. No
+// attribute is added twice, which would be no XML.
 void Mutate(const pugi::xml_document& document, Random& random) {
   const char* const name = Choose(random, kAttributes);
   const char* const value = Choose(random, kValues);

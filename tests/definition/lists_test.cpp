@@ -91,7 +91,7 @@ TEST(DefinitionLists, PutSizesAndMarginsIntoTheirFields) {
         (Numbers{margin.FirstMargin, margin.SecondMargin, margin.ThirdMargin, margin.FourthMargin}),
         numbers)
         << text;
-    EXPECT_EQ(size.PCLid * 10 + size.IsRoll, -28);
+    EXPECT_EQ(std::pair(size.PCLid, size.IsRoll), std::pair(-3, 2));
     EXPECT_EQ(Str(margin.InternalName) + Str(size.InternalName), "nn");
   }
 }

@@ -40,10 +40,11 @@ TEST_F(CustomMedia, RewritesItsFile) {
     std::string after;
   } rows[] = {
       {"lines that count",
-       " key_Iccprofile = a b \r\nkey_Iccprofile=A B=/\n"
+       " key_Iccprofile = a b \r\nkey_Iccprofile=A B=/\nkey_Iccprofile=\n"
        "key_DisplayName_ForMedia= Plain / A/B=C \n",
        [](Media&) {},
-       "key_Iccprofile=a b\nkey_Iccprofile=A B=/\nkey_DisplayName_ForMedia=Plain/A/B=C\n"},
+       "key_Iccprofile=a b\nkey_Iccprofile=A "
+       "B=/\nkey_Iccprofile=\nkey_DisplayName_ForMedia=Plain/A/B=C\n"},
       {"lines that don't",
        "KEY_ICCPROFILE=c\nkey_Iccprofile\n=x\n\nother=1\nkey_DisplayName_ForMedia=Plain\n"
        "key_Iccprofile_ForMedia= /x\nkey_Iccprofile=one",

@@ -44,14 +44,23 @@ TEST_F(Archive, ReadsBackWhatWasWritten) {
   AArchive writing = Open(Direction::Writing);
   writing << std::numeric_limits<int>::min() << 0x80000001U << 0x100000003UL << -1.0F << 2.5;
   writing << bytes;
+  for (int depth = 0; depth < 20; ++depth) writing.TagStart().Tag(1);
+  writing << 7;
+  for (int depth = 0; depth < 20; ++depth) writing.TagEnd();
   EXPECT_EQ(writing.Close(), 1);
   EXPECT_EQ(ReadFile(path_).substr(0, 20), "\0\0\0\x80\x01\0\0\x80\x03\0\0\0\0\0\x80\xBF\0\0\0\0"s);
-  std::tuple<unsigned int, unsigned long, float, double> numbers;
+  unsigned int word = 0;
+  unsigned long longWord = 0;
+  float single = 0;
+  double number = 0;
   AArchive archive = Open(Direction::Reading);
   EXPECT_EQ(Int(archive), std::numeric_limits<int>::min());
-  std::apply([&](auto&... number) { (archive >> ... >> number); }, numbers);
-  EXPECT_EQ(numbers, std::tuple(0x80000001U, 3UL, -1.0F, 2.5));
+  archive >> word >> longWord >> single >> number;
+  EXPECT_EQ(std::tuple(word, longWord, single, number), std::tuple(0x80000001U, 3UL, -1.0F, 2.5));
   EXPECT_EQ(Text(archive), "a\0\xFF\n"s);
+  for (int depth = 0; depth < 20; ++depth) archive.TagStart().Tag(1);
+  EXPECT_EQ(Int(archive), 7);
+  for (int depth = 0; depth < 20; ++depth) archive.TagEnd();
   EXPECT_TRUE(archive.AtEnd() != 0 && archive.IsDamaged() == 0);
 }
 
@@ -66,7 +75,8 @@ TEST_F(Archive, SkipsUnknownTagsAndAnswersForAbsentOnes) {
   EXPECT_EQ(writing.Close(), 1);
   AArchive archive = Open(Direction::Reading);
   archive.TagStart();
-  EXPECT_EQ(archive.GetTag(0) + Int(archive), 0);
+  EXPECT_EQ(archive.GetTag(0), 0);
+  EXPECT_EQ(Int(archive), 0);
   archive.Tag(2).TagStart();  // a group that isn't there holds nothing
   EXPECT_EQ(archive.GetTag(2), 0);
   archive.TagEnd();

@@ -186,6 +186,7 @@ TEST_F(QdfMedia, RefusesWhatTheFileCannotHold) {
       {"--set-name", "a=b\nc",
        "--set-name: a line of the file can't hold a line break: \"a=b\\x0Ac\""},
       {"--set-name", " =b", "--set-name: white space at the ends of a text gets lost: \" =b\""},
+      {"--set-name", "a= b", "--set-name: white space at the ends of a text gets lost: \"a= b\""},
       {"--add-profile", " p", "--add-profile: white space at the ends of a text gets lost: \" p\""},
       {"--set-name", "a=" + tooLong,
        "--set-name: a line of the file has at most 1,023 characters, not 1024: \"a=" +

@@ -76,6 +76,11 @@ TEST_F(QdfWrite, LeavesTheFormerFileWholeWithoutRoomOrRights) {
     EXPECT_EQ(Run(command, {.asNobody = true}), Refused(line + "no permission to write it"));
   }
   for (const auto& [name, content] : files) EXPECT_EQ(File(name), content) << name;
+  // A backup that wasn't there before goes again.
+  fs::remove(folder_.Path(files[2].first));
+  ASSERT_EQ(chmod(folder_.Path("OutputDrivers").c_str(), 0777), 0);
+  EXPECT_EQ(Run("update small.qdf res", {.asNobody = true}).code, 1);
+  EXPECT_FALSE(Has(files[2].first));
 }
 
 constexpr const char* kPath = "OutputDrivers/small.qdf";
