@@ -4,6 +4,7 @@
 #include "tests/check/facts.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <iterator>
 #include <pugixml.hpp>
@@ -157,31 +158,32 @@ void AddShown(Facts& facts, const Value& value, const std::string& place) {
 
 Facts FactsOfDocument(const std::string& path) {
   // In the order of the reports, which begin with the document itself.
-  constexpr const char* kPlaces[] = {"Definition",
-                                     "ProductType",
-                                     "TranslationTable",
-                                     "CustomMediaFile",
-                                     "MinAndMaxMediaSize",
-                                     "MinMarginSize",
-                                     "InkList",
-                                     "MediaList",
-                                     "PrintModeList",
-                                     "ResolutionList",
-                                     "ColorModeList",
-                                     "MediaSourceList",
-                                     "MediaSizeList",
-                                     "MarginInfoList",
-                                     "",
-                                     "Control_Definition",
-                                     "MediaSource_Control"};
+  constexpr std::array kPlaces = {"Definition",
+                                  "ProductType",
+                                  "TranslationTable",
+                                  "CustomMediaFile",
+                                  "MinAndMaxMediaSize",
+                                  "MinMarginSize",
+                                  "InkList",
+                                  "MediaList",
+                                  "PrintModeList",
+                                  "ResolutionList",
+                                  "ColorModeList",
+                                  "MediaSourceList",
+                                  "MediaSizeList",
+                                  "MarginInfoList",
+                                  "",
+                                  "Control_Definition",
+                                  "MediaSource_Control"};
   Arguments arguments;
   arguments.Set("DOC", {path});
   Facts facts;
-  const char* const* place = kPlaces;
+  std::size_t field = 0;
   for (const Command* command : {&kShowCommand, &kTreeCommand}) {
-    for (const Field& field : command->run(arguments).report.fields) {
-      facts.emplace_back(*place);
-      AddShown(facts, field.value, *place++);
+    for (const Field& shown : command->run(arguments).report.fields) {
+      const std::string place = kPlaces.at(field++);
+      facts.push_back(place);
+      AddShown(facts, shown.value, place);
     }
   }
   return facts;
